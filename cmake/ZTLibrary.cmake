@@ -1,0 +1,24 @@
+include(GenerateExportHeader)
+
+# zt_add_library(<name> SOURCES ... [PUBLIC_LIBS ...] [PRIVATE_LIBS ...])
+# A shared library whose headers are included by class name and whose public classes are exported
+# through the generated <name>_export.h; everything else stays hidden.
+function(zt_add_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC_LIBS;PRIVATE_LIBS" ${ARGN})
+    add_library(${name} SHARED ${ARG_SOURCES})
+    string(TOLOWER ${name} lower)
+    generate_export_header(${name} BASE_NAME ${name} EXPORT_FILE_NAME ${lower}_export.h)
+    target_include_directories(${name} PUBLIC
+        $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
+        $<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${name}>)
+    target_link_libraries(${name} PUBLIC ${ARG_PUBLIC_LIBS} PRIVATE ${ARG_PRIVATE_LIBS})
+    set_target_properties(${name} PROPERTIES
+        CXX_VISIBILITY_PRESET hidden
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR})
+    file(GLOB headers ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+    install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    install(FILES ${headers} ${CMAKE_CURRENT_BINARY_DIR}/${lower}_export.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${name})
+endfunction()

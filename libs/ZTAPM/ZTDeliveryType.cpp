@@ -1,0 +1,27 @@
+#include "ZTDeliveryType.h"
+
+ZTDeliveryType::ZTDeliveryType(ZTDeliveryTypeEnum theValue) : ZTEnumWrapper<ZTDeliveryTypeEnum>(theValue) {}
+
+ZTDeliveryType::ZTDeliveryType(const QString& theText)
+{
+    setValue(theText);
+}
+
+void ZTDeliveryType::fillTable(ZTEnumToStringTable<ZTDeliveryTypeEnum>* theTable) const
+{
+    theTable->insert(QString(), ZTDeliveryTypeNotGiven);
+    theTable->insert(QStringLiteral("0"), ZTDeliveryTypePointOfSale);
+    theTable->insert(QStringLiteral("1"), ZTDeliveryTypeMailOrder);
+    theTable->setDefaultValue(ZTDeliveryTypeUndecodable);
+}
+
+bool ZTDeliveryType::isValid() const
+{
+    return myValue != ZTDeliveryTypeUndecodable;
+}
+
+QList<ZTDeliveryType> ZTDeliveryType::allDeliveryTypes()
+{
+    static const QList<ZTDeliveryType> all{ZTDeliveryTypePointOfSale, ZTDeliveryTypeMailOrder};
+    return all;
+}

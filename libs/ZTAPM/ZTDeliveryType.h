@@ -1,0 +1,30 @@
+#ifndef ZTDELIVERYTYPE_H
+#define ZTDELIVERYTYPE_H
+
+#include "ZTEnumToStringTable.h"
+#include "ztapm_export.h"
+
+// How the goods reach the customer.
+enum ZTDeliveryTypeEnum : qint32 {
+    ZTDeliveryTypeUndecodable = -2,
+    ZTDeliveryTypeNotGiven = -1,
+    ZTDeliveryTypePointOfSale = 0,
+    ZTDeliveryTypeMailOrder = 1,
+};
+
+class ZTAPM_EXPORT ZTDeliveryType : public ZTEnumWrapper<ZTDeliveryTypeEnum>
+{
+public:
+    ZTDeliveryType(ZTDeliveryTypeEnum theValue = ZTDeliveryTypeNotGiven);
+    explicit ZTDeliveryType(const QString& theText);
+
+    // Only an undecodable keyword is invalid; "not given" is a valid answer.
+    bool isValid() const override;
+
+    // Point of sale, then mail order.
+    static QList<ZTDeliveryType> allDeliveryTypes();
+
+    void fillTable(ZTEnumToStringTable<ZTDeliveryTypeEnum>* theTable) const override;
+};
+
+#endif // ZTDELIVERYTYPE_H
