@@ -1,6 +1,7 @@
 #include "ZTDeliveryType.h"
 
-ZTDeliveryType::ZTDeliveryType(ZTDeliveryTypeEnum theValue) : ZTEnumWrapper<ZTDeliveryTypeEnum>(theValue) {}
+ZTDeliveryType::ZTDeliveryType(ZTDeliveryTypeEnum theValue) : ZTEnumWrapper<ZTDeliveryTypeEnum>(theValue)
+{}
 
 ZTDeliveryType::ZTDeliveryType(const QString& theText)
 {

@@ -1,6 +1,7 @@
 #include "ZTExpressType.h"
 
-ZTExpressType::ZTExpressType(ZTExpressTypeEnum theValue) : ZTEnumWrapper<ZTExpressTypeEnum>(theValue) {}
+ZTExpressType::ZTExpressType(ZTExpressTypeEnum theValue) : ZTEnumWrapper<ZTExpressTypeEnum>(theValue)
+{}
 
 ZTExpressType::ZTExpressType(const QString& theText)
 {

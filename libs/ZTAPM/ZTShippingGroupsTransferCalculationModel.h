@@ -11,13 +11,16 @@ enum ZTShippingGroupsTransferCalculationModelEnum : qint32 {
     ZTShippingGroupsTransferCalculationMaxOnly = 2,
 };
 
-class ZTAPM_EXPORT ZTShippingGroupsTransferCalculationModel : public ZTEnumWrapper<ZTShippingGroupsTransferCalculationModelEnum>
+class ZTAPM_EXPORT ZTShippingGroupsTransferCalculationModel
+    : public ZTEnumWrapper<ZTShippingGroupsTransferCalculationModelEnum>
 {
 public:
-    ZTShippingGroupsTransferCalculationModel(ZTShippingGroupsTransferCalculationModelEnum theValue = ZTShippingGroupsTransferCalculationNotGiven);
+    ZTShippingGroupsTransferCalculationModel(
+        ZTShippingGroupsTransferCalculationModelEnum theValue = ZTShippingGroupsTransferCalculationNotGiven);
     explicit ZTShippingGroupsTransferCalculationModel(const QString& theText);
 
-    void fillTable(ZTEnumToStringTable<ZTShippingGroupsTransferCalculationModelEnum>* theTable) const override;
+    void
+    fillTable(ZTEnumToStringTable<ZTShippingGroupsTransferCalculationModelEnum>* theTable) const override;
 };
 
 #endif // ZTSHIPPINGGROUPSTRANSFERCALCULATIONMODEL_H

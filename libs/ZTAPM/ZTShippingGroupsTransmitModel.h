@@ -14,7 +14,8 @@ enum ZTShippingGroupsTransmitModelEnum : qint32 {
 class ZTAPM_EXPORT ZTShippingGroupsTransmitModel : public ZTEnumWrapper<ZTShippingGroupsTransmitModelEnum>
 {
 public:
-    ZTShippingGroupsTransmitModel(ZTShippingGroupsTransmitModelEnum theValue = ZTShippingGroupsTransmitModelNotGiven);
+    ZTShippingGroupsTransmitModel(
+        ZTShippingGroupsTransmitModelEnum theValue = ZTShippingGroupsTransmitModelNotGiven);
     explicit ZTShippingGroupsTransmitModel(const QString& theText);
 
     void fillTable(ZTEnumToStringTable<ZTShippingGroupsTransmitModelEnum>* theTable) const override;

@@ -1,6 +1,7 @@
 #include "ZTTransferModel.h"
 
-ZTTransferModel::ZTTransferModel(ZTTransferModelEnum theValue) : ZTEnumWrapper<ZTTransferModelEnum>(theValue) {}
+ZTTransferModel::ZTTransferModel(ZTTransferModelEnum theValue) : ZTEnumWrapper<ZTTransferModelEnum>(theValue)
+{}
 
 ZTTransferModel::ZTTransferModel(const QString& theText)
 {

@@ -1,6 +1,7 @@
 #include "ZTRange.h"
 
-ZTIntRange::ZTIntRange(int theLower, int theUpper) : ZTRange<int>(theLower, theUpper) {}
+ZTIntRange::ZTIntRange(int theLower, int theUpper) : ZTRange<int>(theLower, theUpper)
+{}
 
 ZTIntRange::~ZTIntRange() = default;
 

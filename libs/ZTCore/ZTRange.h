@@ -50,7 +50,10 @@ public:
     virtual T center() const { return T((myLower + myUpper) / 2); }
     virtual bool isValid() const { return !(myUpper < myLower); }
     virtual bool contains(T theValue) const { return myLower <= theValue && theValue <= myUpper; }
-    virtual bool contains(const ZTRange& other) const { return contains(other.myLower) && contains(other.myUpper); }
+    virtual bool contains(const ZTRange& other) const
+    {
+        return contains(other.myLower) && contains(other.myUpper);
+    }
     virtual bool intersects(const ZTRange& other) const
     {
         return contains(other.myLower) || contains(other.myUpper) || other.contains(myLower) ||

@@ -174,8 +174,14 @@ public:
         myValue = ENUM(Int(myValue) & Int(other));
         return *this;
     }
-    virtual ENUM operator&(const ZTEnumWrapper& other) const { return ENUM(Int(myValue) & Int(other.myValue)); }
-    virtual ENUM operator|(const ZTEnumWrapper& other) const { return ENUM(Int(myValue) | Int(other.myValue)); }
+    virtual ENUM operator&(const ZTEnumWrapper& other) const
+    {
+        return ENUM(Int(myValue) & Int(other.myValue));
+    }
+    virtual ENUM operator|(const ZTEnumWrapper& other) const
+    {
+        return ENUM(Int(myValue) | Int(other.myValue));
+    }
     virtual ZTEnumWrapper& exclude(const ZTEnumWrapper& other) { return exclude(other.myValue); }
     virtual ZTEnumWrapper& exclude(ENUM other)
     {
@@ -226,7 +232,10 @@ public:
     QString encode() const { return enumToStringTable()->encode(myValue); }
     QStringList encodeBits() const { return enumToStringTable()->encodeAsList(myValue); }
     QString encodeCSV() const { return enumToStringTable()->encodeCSV(myValue); }
-    ENUM decodeOneElement(const QString& text) const { return enumToStringTable()->decodeOneElement(text, true); }
+    ENUM decodeOneElement(const QString& text) const
+    {
+        return enumToStringTable()->decodeOneElement(text, true);
+    }
     ENUM decodeCSV(const QString& text) const { return enumToStringTable()->decodeCSV(text); }
 
     QStringList allKnownKeywords() const { return enumToStringTable()->allKnownKeywords(); }
