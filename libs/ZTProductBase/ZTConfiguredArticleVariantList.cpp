@@ -1,0 +1,53 @@
+#include "ZTConfiguredArticleVariantList.h"
+
+#include <QDomElement>
+#include <QStringList>
+
+ZTConfiguredArticleVariantList::ZTConfiguredArticleVariantList() = default;
+
+ZTConfiguredArticleVariantList::ZTConfiguredArticleVariantList(const QDomElement& theArticle)
+{
+    const QDomElement variants = theArticle.firstChildElement(QStringLiteral("variants"));
+    if (variants.isNull())
+        return;
+
+    QStringList skipped;
+    for (QDomElement variant = variants.firstChildElement(QStringLiteral("variant")); !variant.isNull();
+         variant = variant.nextSiblingElement(QStringLiteral("variant"))) {
+        const QString idText = variant.attribute(QStringLiteral("id")).trimmed();
+        bool ok = false;
+        const int id = idText.toInt(&ok);
+        if (!ok || id <= 0) {
+            skipped.append(QStringLiteral("id \"%1\" is no positive number").arg(idText));
+            continue;
+        }
+        if (containsId(id)) {
+            skipped.append(QStringLiteral("id %1 is listed twice").arg(id));
+            continue;
+        }
+        append(ZTConfiguredArticleVariant(id, variant.attribute(QStringLiteral("name")).trimmed()));
+    }
+    if (!skipped.isEmpty())
+        qWarning().noquote() << "variants of article" << theArticle.attribute(QStringLiteral("id"))
+                             << "skipped:" << skipped.join(QStringLiteral("; "));
+}
+
+ZTConfiguredArticleVariantList::ZTConfiguredArticleVariantList(const ZTConfiguredArticleVariantList& other) =
+    default;
+ZTConfiguredArticleVariantList&
+ZTConfiguredArticleVariantList::operator=(const ZTConfiguredArticleVariantList& other) = default;
+ZTConfiguredArticleVariantList::~ZTConfiguredArticleVariantList() = default;
+
+ZTConfiguredArticleVariant ZTConfiguredArticleVariantList::variant(int theId) const
+{
+    for (const ZTConfiguredArticleVariant& candidate : *this) {
+        if (candidate.id() == theId)
+            return candidate;
+    }
+    return ZTConfiguredArticleVariant();
+}
+
+bool ZTConfiguredArticleVariantList::containsId(int theId) const
+{
+    return variant(theId).isValid();
+}

@@ -1,0 +1,129 @@
+#include "ZTPageCountOrganization.h"
+
+#include <QDomElement>
+#include <QStringList>
+
+namespace {
+
+const int theCardWithInsertedFotoPages = 2;
+const int theAdventCalendarDoors = 24;
+
+// The attribute as a number; a missing one gives theDefault silently, a bad one theDefault and a
+// note for the article's warning.
+int readCount(const QDomElement& theArticle, const QString& theName, int theDefault, QStringList* theProblems)
+{
+    const QString text = theArticle.attribute(theName).trimmed();
+    if (text.isEmpty())
+        return theDefault;
+    bool ok = false;
+    const int value = text.toInt(&ok);
+    if (ok)
+        return value;
+    theProblems->append(QStringLiteral("%1=\"%2\" is no number").arg(theName, text));
+    return theDefault;
+}
+
+} // namespace
+
+ZTPageCountOrganization::ZTPageCountOrganization() = default;
+
+ZTPageCountOrganization::ZTPageCountOrganization(int theMinPages, int theMaxPages, int thePageIncrement)
+    : myMinPages(theMinPages), myMaxPages(theMaxPages), myPageIncrement(thePageIncrement)
+{}
+
+ZTPageCountOrganization::ZTPageCountOrganization(const ZTPageCountOrganization& other) = default;
+ZTPageCountOrganization& ZTPageCountOrganization::operator=(const ZTPageCountOrganization& other) = default;
+ZTPageCountOrganization::~ZTPageCountOrganization() = default;
+
+bool ZTPageCountOrganization::allowsPageCount(int thePages) const
+{
+    if (thePages < myMinPages || thePages > myMaxPages)
+        return false;
+    return myPageIncrement < 1 || (thePages - myMinPages) % myPageIncrement == 0;
+}
+
+ZTPageCountOrganization ZTPageCountOrganization::clone(bool onlyMinimumPages) const
+{
+    ZTPageCountOrganization copy(*this);
+    if (onlyMinimumPages)
+        copy.myMaxPages = copy.myMinPages;
+    return copy;
+}
+
+bool ZTPageCountOrganization::operator==(const ZTPageCountOrganization& other) const
+{
+    return myMinPages == other.myMinPages && myMaxPages == other.myMaxPages &&
+           myPageIncrement == other.myPageIncrement;
+}
+
+ZTPageCountOrganization ZTPageCountOrganization::createFromProductsXML(const QDomElement& theArticle)
+{
+    return read(theArticle, 1, QStringList());
+}
+
+ZTPageCountOrganization
+ZTPageCountOrganization::createFromProductsXMLForPictureBox(const QDomElement& theArticle)
+{
+    QStringList problems;
+    const int pictures = readCount(theArticle, QStringLiteral("pieces"), 1, &problems);
+    return read(theArticle, pictures, problems);
+}
+
+ZTPageCountOrganization ZTPageCountOrganization::createForCardWithInsertedFoto()
+{
+    return ZTPageCountOrganization(theCardWithInsertedFotoPages, theCardWithInsertedFotoPages, 1);
+}
+
+ZTPageCountOrganization ZTPageCountOrganization::createForAdventCalendarWithDoorBackPrint()
+{
+    return ZTPageCountOrganization(1 + theAdventCalendarDoors, 1 + theAdventCalendarDoors, 1);
+}
+
+ZTPageCountOrganization ZTPageCountOrganization::read(const QDomElement& theArticle, int theDefaultMinPages,
+                                                      QStringList problems)
+{
+    ZTPageCountOrganization result;
+    if (theArticle.isNull())
+        return result;
+
+    int minPages = readCount(theArticle, QStringLiteral("min_pages"), theDefaultMinPages, &problems);
+    if (minPages < 1) {
+        problems.append(QStringLiteral("min_pages %1 is below 1").arg(minPages));
+        minPages = 1;
+    }
+    int maxPages = readCount(theArticle, QStringLiteral("max_pages"), minPages, &problems);
+    if (maxPages < minPages) {
+        problems.append(QStringLiteral("max_pages %1 is below min_pages %2").arg(maxPages).arg(minPages));
+        maxPages = minPages;
+    }
+    int increment = readCount(theArticle, QStringLiteral("page_increment"), 1, &problems);
+    if (increment < 1) {
+        problems.append(QStringLiteral("page_increment %1 is below 1").arg(increment));
+        increment = 1;
+    }
+    // A maximum between two steps cannot be reached; the last reachable count is meant.
+    const int unreachable = (maxPages - minPages) % increment;
+    if (unreachable != 0) {
+        problems.append(QStringLiteral("max_pages %1 is not reachable in steps of %2 from %3")
+                            .arg(maxPages)
+                            .arg(increment)
+                            .arg(minPages));
+        maxPages -= unreachable;
+    }
+    if (!problems.isEmpty())
+        qWarning().noquote() << "page counts of article" << theArticle.attribute(QStringLiteral("id")) << ":"
+                             << problems.join(QStringLiteral("; "));
+
+    result.myMinPages = minPages;
+    result.myMaxPages = maxPages;
+    result.myPageIncrement = increment;
+    return result;
+}
+
+QDebug operator<<(QDebug debug, const ZTPageCountOrganization& theOrganization)
+{
+    QDebugStateSaver saver(debug);
+    debug.nospace() << "ZTPageCountOrganization(" << theOrganization.minPages() << ".."
+                    << theOrganization.maxPages() << " step " << theOrganization.pageIncrement() << ')';
+    return debug;
+}
