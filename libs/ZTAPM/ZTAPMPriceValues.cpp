@@ -1,0 +1,136 @@
+#include "ZTAPMPriceValues.h"
+
+#include <algorithm>
+
+ZTAPMPriceValues::ZTAPMPriceValues() = default;
+ZTAPMPriceValues::ZTAPMPriceValues(const ZTAPMPriceValues& theOther) = default;
+ZTAPMPriceValues& ZTAPMPriceValues::operator=(const ZTAPMPriceValues& theOther) = default;
+ZTAPMPriceValues::~ZTAPMPriceValues() = default;
+
+ZTAPMPriceValue ZTAPMPriceValues::value(const ZTAPMPriceKey& theKey) const
+{
+    const auto it = myValues.constFind(theKey);
+    return it != myValues.cend() ? it.value() : ZTAPMPriceValue();
+}
+
+void ZTAPMPriceValues::insert(const ZTAPMPriceKey& theKey, const ZTAPMPriceValue& theValue)
+{
+    myValues.insert(theKey, theValue);
+    myMaxDiscountLevel = std::max(myMaxDiscountLevel, qint32(theValue.discountLevel()));
+}
+
+ZTAPMPriceValue& ZTAPMPriceValues::operator[](const ZTAPMPriceKey& theKey)
+{
+    return myValues[theKey];
+}
+
+ZTAPMPriceValues ZTAPMPriceValues::unite(const ZTAPMPriceValues& theOther)
+{
+    if (theOther.myValues.isEmpty() || &theOther == this || myValues.isSharedWith(theOther.myValues))
+        return *this;
+    if (myValues.isEmpty()) {
+        myValues = theOther.myValues;
+    } else {
+        for (auto it = theOther.myValues.cbegin(); it != theOther.myValues.cend(); ++it)
+            myValues.insert(it.key(), it.value());
+    }
+    for (const ZTAPMPriceValue& value : std::as_const(myValues))
+        myMaxDiscountLevel = std::max(myMaxDiscountLevel, qint32(value.discountLevel()));
+    return *this;
+}
+
+void ZTAPMPriceValues::clear()
+{
+    myValues.clear();
+    myMaxDiscountLevel = 0;
+}
+
+bool ZTAPMPriceValues::operator==(const ZTAPMPriceValues& theOther) const
+{
+    // QHash's own comparison: same size, every key present with an equal value.
+    return myMaxDiscountLevel == theOther.myMaxDiscountLevel && myValues == theOther.myValues;
+}
+
+bool ZTAPMPriceValues::operator!=(const ZTAPMPriceValues& theOther) const
+{
+    return !(*this == theOther);
+}
+
+int ZTAPMPriceValues::countItemsAtUpperBound(const ZTAPMPriceKey& theKey) const
+{
+    ZTAPMPriceKey nextLevel(theKey);
+    nextLevel.setDiscountLevel(theKey.discountLevel() + 1);
+    const ZTAPMPriceValue next = value(nextLevel);
+    return next.isValid() ? next.lowerLimit() - 1 : -1;
+}
+
+ZTAPMPriceValues ZTAPMPriceValues::fixedUpperLimits() const
+{
+    ZTAPMPriceValues result;
+    for (auto it = myValues.cbegin(); it != myValues.cend(); ++it) {
+        ZTAPMPriceValue value(it.value());
+        value.setUpperLimit(countItemsAtUpperBound(it.key()));
+        result.insert(it.key(), value);
+    }
+    return result;
+}
+
+ZTAPMPriceValues ZTAPMPriceValues::fixedDiscountModelW() const
+{
+    QList<ZTOrderSource> sources;
+    for (auto it = myValues.cbegin(); it != myValues.cend(); ++it) {
+        if (!sources.contains(it.key().orderSource()))
+            sources.append(it.key().orderSource());
+    }
+    ZTAPMPriceValues result(*this);
+    for (const ZTOrderSource& source : std::as_const(sources))
+        result = fixedDiscountModelW(result, source);
+    return result;
+}
+
+ZTAPMPriceValues ZTAPMPriceValues::fixedDiscountModelW(const ZTAPMPriceValues& thePrices,
+                                                       const ZTOrderSource& theOrderSource) const
+{
+    if (!containsDiscountModel(theOrderSource, ZTDiscountModelFotoPackage))
+        return thePrices;
+    ZTAPMPriceValues result;
+    for (auto it = thePrices.myValues.cbegin(); it != thePrices.myValues.cend(); ++it) {
+        ZTAPMPriceKey key(it.key());
+        ZTAPMPriceValue value(it.value());
+        if (key.orderSource() == theOrderSource) {
+            key.setDiscountModel(ZTDiscountModelFotoPackage);
+            value.setDiscountModel(ZTDiscountModelFotoPackage);
+        }
+        result.insert(key, value);
+    }
+    return result;
+}
+
+QSet<ZTDiscountModel> ZTAPMPriceValues::discountModels() const
+{
+    QSet<ZTDiscountModel> result;
+    for (const ZTAPMPriceValue& value : myValues)
+        result.insert(value.discountModel());
+    return result;
+}
+
+bool ZTAPMPriceValues::containsDiscountModel(const ZTOrderSource& theOrderSource,
+                                             const ZTDiscountModel& theModel) const
+{
+    for (auto it = myValues.cbegin(); it != myValues.cend(); ++it) {
+        if (it.key().orderSource() == theOrderSource && it.value().discountModel() == theModel)
+            return true;
+    }
+    return false;
+}
+
+ZTDiscountLimit ZTAPMPriceValues::fotoBasePackageLimit(const ZTOrderSource& theOrderSource) const
+{
+    for (auto it = myValues.cbegin(); it != myValues.cend(); ++it) {
+        const ZTAPMPriceKey& key = it.key();
+        if (key.orderSource() == theOrderSource && key.discountLevel() == 1 &&
+            key.discountModel() == ZTDiscountModelFotoPackage)
+            return it.value().discountLimit();
+    }
+    return ZTDiscountLimit();
+}

@@ -1,0 +1,5 @@
+#include "ZTDiscountLimitImpl.h"
+
+ZTDiscountLimitImpl::ZTDiscountLimitImpl() = default;
+ZTDiscountLimitImpl::ZTDiscountLimitImpl(const ZTDiscountLimitImpl& theOther) = default;
+ZTDiscountLimitImpl::~ZTDiscountLimitImpl() = default;
