@@ -1,0 +1,234 @@
+#include "ZTAPMArticlePriceInfo.h"
+
+#include "ZTXMLParser.h"
+
+#include <QDebug>
+#include <QDomElement>
+
+namespace {
+const QString PRICE_NODE = QStringLiteral("price");
+
+// The one row of a "price" element; false if the element has no usable model.
+bool readPriceRow(const QDomElement& thePriceElement, ZTAPMPriceKey* theKey, ZTAPMPriceValue* theValue)
+{
+    const ZTAPMPriceValue value(thePriceElement);
+    if (value.discountModel().isNull())
+        return false;
+    *theKey = ZTAPMPriceKey(ZTOrderSource(thePriceElement), value.discountLevel(), value.discountModel());
+    *theValue = value;
+    return true;
+}
+} // namespace
+
+ZTAPMArticlePriceInfo::ZTAPMArticlePriceInfo() : myArticleId(0)
+{}
+
+ZTAPMArticlePriceInfo::ZTAPMArticlePriceInfo(const ZTArticleId& theArticleId) : myArticleId(theArticleId)
+{}
+
+ZTAPMArticlePriceInfo::ZTAPMArticlePriceInfo(const ZTArticleId& theArticleId,
+                                             const QDomElement& theArticleNode)
+    : myArticleId(theArticleId)
+{
+    update(theArticleNode);
+}
+
+ZTAPMArticlePriceInfo::ZTAPMArticlePriceInfo(const ZTAPMArticlePriceInfo& theOther) = default;
+ZTAPMArticlePriceInfo& ZTAPMArticlePriceInfo::operator=(const ZTAPMArticlePriceInfo& theOther) = default;
+ZTAPMArticlePriceInfo::~ZTAPMArticlePriceInfo() = default;
+
+ZTAPMArticlePriceInfo ZTAPMArticlePriceInfo::createFromXTCI(const QDomElement& theArticleNode)
+{
+    return ZTAPMArticlePriceInfo(ZTArticleId::fromIdAttribute(theArticleNode), theArticleNode);
+}
+
+QStringList ZTAPMArticlePriceInfo::xtciNodeNames()
+{
+    return {QStringLiteral("article"),        QStringLiteral("add_on"),
+            QStringLiteral("transfer"),       QStringLiteral("express_fee"),
+            QStringLiteral("pay_method_fee"), QStringLiteral("shipment_method_fee")};
+}
+
+QString ZTAPMArticlePriceInfo::xtciSectionName(const QString& theNodeName)
+{
+    return theNodeName + QLatin1Char('s');
+}
+
+void ZTAPMArticlePriceInfo::update(const QDomElement& theArticleNode)
+{
+    clear();
+    ZTAPMPriceValues table;
+    table.unite(parsePricesGroup(theArticleNode.firstChildElement(QStringLiteral("base_prices"))));
+    table.unite(parsePricesGroup(theArticleNode.firstChildElement(QStringLiteral("discount_prices"))));
+    // Upper bounds last, so that they are computed within the converted photo package ladder.
+    myPriceValues = table.fixedDiscountModelW().fixedUpperLimits();
+    myDiscountModels = myPriceValues.discountModels();
+    myTransferModel = parseTransferModel(theArticleNode);
+}
+
+void ZTAPMArticlePriceInfo::clear()
+{
+    myPriceValues.clear();
+    myDiscountModels.clear();
+    myTransferModel = ZTTransferModelNone;
+}
+
+ZTAPMPriceValues ZTAPMArticlePriceInfo::parsePrice(const QDomElement& thePriceElement)
+{
+    ZTAPMPriceValues result;
+    ZTAPMPriceKey key;
+    ZTAPMPriceValue value;
+    if (readPriceRow(thePriceElement, &key, &value))
+        result.insert(key, value);
+    return result;
+}
+
+ZTAPMPriceValues ZTAPMArticlePriceInfo::parsePricesGroup(const QDomElement& theGroup)
+{
+    ZTAPMPriceValues result;
+    ZTAPMPriceKey key;
+    ZTAPMPriceValue value;
+    for (QDomElement price = theGroup.firstChildElement(PRICE_NODE); !price.isNull();
+         price = price.nextSiblingElement(PRICE_NODE)) {
+        if (readPriceRow(price, &key, &value))
+            result.insert(key, value);
+    }
+    return result;
+}
+
+ZTTransferModel ZTAPMArticlePriceInfo::parseTransferModel(const QDomElement& theArticleNode)
+{
+    if (theArticleNode.tagName() != QLatin1String("transfer"))
+        return ZTTransferModelNone;
+    const QString keyword =
+        ZTXMLParser::attribute(theArticleNode, QStringLiteral("model_id"), QString(), true);
+    // One keyword, not a list; an unknown or missing one means the per-bill calculation.
+    const ZTTransferModel model(ZTTransferModel().enumToStringTable()->decodeOneElement(keyword, false));
+    return model == ZTTransferModelNone ? ZTTransferModel(ZTTransferModelPerBill) : model;
+}
+
+bool ZTAPMArticlePriceInfo::operator==(const ZTAPMArticlePriceInfo& theOther) const
+{
+    return myPriceValues == theOther.myPriceValues && myDiscountModels == theOther.myDiscountModels &&
+           myTransferModel == theOther.myTransferModel;
+}
+
+bool ZTAPMArticlePriceInfo::operator!=(const ZTAPMArticlePriceInfo& theOther) const
+{
+    return !(*this == theOther);
+}
+
+bool ZTAPMArticlePriceInfo::isValid() const
+{
+    return *this != ZTAPMArticlePriceInfo();
+}
+
+ZTAPMPriceValue ZTAPMArticlePriceInfo::priceValue(const ZTAPMPriceKey& theKey) const
+{
+    return myPriceValues.value(theKey);
+}
+
+bool ZTAPMArticlePriceInfo::hasDiscountModel(const ZTOrderSource& theOrderSource,
+                                             const ZTDiscountModel& theModel) const
+{
+    return myPriceValues.containsDiscountModel(theOrderSource, theModel);
+}
+
+ZTDiscountLimit ZTAPMArticlePriceInfo::fotoBasePackageLimit(const ZTOrderSource& theOrderSource) const
+{
+    return myPriceValues.fotoBasePackageLimit(theOrderSource);
+}
+
+ZTMoney ZTAPMArticlePriceInfo::nonOfferPrice(const ZTAPMPriceKey& theKey) const
+{
+    return priceValue(theKey).nonOfferPrice();
+}
+
+bool ZTAPMArticlePriceInfo::isOfferPriceValid(const ZTAPMPriceKey& theKey) const
+{
+    return priceValue(theKey).isOfferPriceValid();
+}
+
+ZTMoney ZTAPMArticlePriceInfo::baseTransferPrice(const ZTAPMPriceKey& theKey) const
+{
+    return priceValue(ZTAPMPriceKey(theKey, ZTDiscountModelBulk)).baseTransferPrice();
+}
+
+ZTMoney ZTAPMArticlePriceInfo::unitTransferPrice(const ZTAPMPriceKey& theKey) const
+{
+    return priceValue(ZTAPMPriceKey(theKey, ZTDiscountModelBulk)).unitTransferPrice();
+}
+
+int ZTAPMArticlePriceInfo::bestDiscountLevel(const ZTAPMPriceKey& theKey, int theQuantity) const
+{
+    ZTAPMPriceKey key(theKey);
+    for (int level = maxDiscountLevel(); level >= 1; --level) {
+        key.setDiscountLevel(level);
+        const ZTAPMPriceValue value = priceValue(key);
+        if (value.isValid() && value.lowerLimit() <= theQuantity)
+            return level;
+    }
+    return 0;
+}
+
+ZTPriceBundle ZTAPMArticlePriceInfo::pricesAtBound(const ZTAPMPriceKey& theKey,
+                                                   const ZTDiscountLimit& theLimit) const
+{
+    ZTAPMPriceKey key(theKey);
+    key.setDiscountModel(theLimit.discountModel());
+    for (int level = 0; level <= maxDiscountLevel(); ++level) {
+        key.setDiscountLevel(level);
+        const ZTAPMPriceValue value = priceValue(key);
+        // Either test suffices: an article with other bounds than the shown ladder still
+        // answers with its row of the same level.
+        if (value.isValid() && (value.lowerLimit() == theLimit.lowerLimit() ||
+                                value.discountLevel() == theLimit.discountLevel()))
+            return ZTPriceBundle(myArticleId, value.price(), value.nonOfferPrice(), value.lowerLimit());
+    }
+    return ZTPriceBundle();
+}
+
+ZTMoney ZTAPMArticlePriceInfo::priceAtBound(const ZTAPMPriceKey& theKey,
+                                            const ZTDiscountLimit& theLimit) const
+{
+    return pricesAtBound(theKey, theLimit).price();
+}
+
+ZTDiscountLimitSet ZTAPMArticlePriceInfo::discountLimits(const ZTAPMPriceKey& theKey) const
+{
+    ZTDiscountLimitSet result;
+    if (theKey.discountLevel() == 0 && theKey.discountModel() != ZTDiscountModelBulk)
+        return result;
+    const ZTAPMPriceValues::Rows& rows = myPriceValues.rows();
+    for (auto it = rows.cbegin(); it != rows.cend(); ++it) {
+        if (theKey.supercedes(it.key()) && it.value().price().isValid())
+            result.insert(it.value().discountLimit());
+    }
+    result.removeZeroLimits();
+    return result;
+}
+
+QString ZTAPMArticlePriceInfo::dump() const
+{
+    QStringList models;
+    for (const ZTDiscountModel& model : myDiscountModels)
+        models.append(model.encode());
+    QStringList rows;
+    const ZTAPMPriceValues::Rows& values = myPriceValues.rows();
+    for (auto it = values.cbegin(); it != values.cend(); ++it)
+        rows.append(QStringLiteral("key:   %1\nprice: %2").arg(it.key().dump(), it.value().dump()));
+    return QStringList{QStringLiteral("\nZTAPMArticlePriceInfo:"),
+                       QStringLiteral("    transfer model: %1").arg(myTransferModel.encode()),
+                       QStringLiteral("    max discount level: %1").arg(maxDiscountLevel()),
+                       QStringLiteral("    discount models: %1").arg(models.join(QStringLiteral(", "))),
+                       QStringLiteral("    prices:"),
+                       rows.join(QStringLiteral("\n===\n"))}
+        .join(QLatin1Char('\n'));
+}
+
+QDebug operator<<(QDebug theDebug, const ZTAPMArticlePriceInfo& theInfo)
+{
+    QDebugStateSaver saver(theDebug);
+    theDebug.noquote() << theInfo.dump();
+    return theDebug;
+}
