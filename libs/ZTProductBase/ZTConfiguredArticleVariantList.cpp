@@ -1,5 +1,7 @@
 #include "ZTConfiguredArticleVariantList.h"
 
+#include "ZTXMLParser.h"
+
 #include <QDomElement>
 #include <QStringList>
 
@@ -14,9 +16,9 @@ ZTConfiguredArticleVariantList::ZTConfiguredArticleVariantList(const QDomElement
     QStringList skipped;
     for (QDomElement variant = variants.firstChildElement(QStringLiteral("variant")); !variant.isNull();
          variant = variant.nextSiblingElement(QStringLiteral("variant"))) {
-        const QString idText = variant.attribute(QStringLiteral("id")).trimmed();
+        const QString idText = ZTXMLParser::attribute(variant, QStringLiteral("id"), QString(), true);
         bool ok = false;
-        const int id = idText.toInt(&ok);
+        const int id = ZTXMLParser::fastDecodeInt(idText, &ok);
         if (!ok || id <= 0) {
             skipped.append(QStringLiteral("id \"%1\" is no positive number").arg(idText));
             continue;
@@ -25,7 +27,8 @@ ZTConfiguredArticleVariantList::ZTConfiguredArticleVariantList(const QDomElement
             skipped.append(QStringLiteral("id %1 is listed twice").arg(id));
             continue;
         }
-        append(ZTConfiguredArticleVariant(id, variant.attribute(QStringLiteral("name")).trimmed()));
+        append(ZTConfiguredArticleVariant(
+            id, ZTXMLParser::attribute(variant, QStringLiteral("name"), QString(), true).trimmed()));
     }
     if (!skipped.isEmpty())
         qWarning().noquote() << "variants of article" << theArticle.attribute(QStringLiteral("id"))

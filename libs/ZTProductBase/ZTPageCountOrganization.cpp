@@ -1,22 +1,24 @@
 #include "ZTPageCountOrganization.h"
 
+#include "ZTXMLParser.h"
+
 #include <QDomElement>
 #include <QStringList>
 
 namespace {
 
-const int theCardWithInsertedFotoPages = 2;
-const int theAdventCalendarDoors = 24;
+const int cardWithInsertedFotoPages = 2;
+const int adventCalendarDoors = 24;
 
 // The attribute as a number; a missing one gives theDefault silently, a bad one theDefault and a
 // note for the article's warning.
 int readCount(const QDomElement& theArticle, const QString& theName, int theDefault, QStringList* theProblems)
 {
-    const QString text = theArticle.attribute(theName).trimmed();
+    const QString text = ZTXMLParser::attribute(theArticle, theName, QString(), true);
     if (text.isEmpty())
         return theDefault;
     bool ok = false;
-    const int value = text.toInt(&ok);
+    const int value = ZTXMLParser::fastDecodeInt(text, &ok);
     if (ok)
         return value;
     theProblems->append(QStringLiteral("%1=\"%2\" is no number").arg(theName, text));
@@ -71,12 +73,12 @@ ZTPageCountOrganization::createFromProductsXMLForPictureBox(const QDomElement& t
 
 ZTPageCountOrganization ZTPageCountOrganization::createForCardWithInsertedFoto()
 {
-    return ZTPageCountOrganization(theCardWithInsertedFotoPages, theCardWithInsertedFotoPages, 1);
+    return ZTPageCountOrganization(cardWithInsertedFotoPages, cardWithInsertedFotoPages, 1);
 }
 
 ZTPageCountOrganization ZTPageCountOrganization::createForAdventCalendarWithDoorBackPrint()
 {
-    return ZTPageCountOrganization(1 + theAdventCalendarDoors, 1 + theAdventCalendarDoors, 1);
+    return ZTPageCountOrganization(1 + adventCalendarDoors, 1 + adventCalendarDoors, 1);
 }
 
 ZTPageCountOrganization ZTPageCountOrganization::read(const QDomElement& theArticle, int theDefaultMinPages,

@@ -1,0 +1,4 @@
+#include "ZTConfiguredArticleVariantRegistryAbstract.h"
+
+ZTConfiguredArticleVariantRegistryAbstract::ZTConfiguredArticleVariantRegistryAbstract() = default;
+ZTConfiguredArticleVariantRegistryAbstract::~ZTConfiguredArticleVariantRegistryAbstract() = default;

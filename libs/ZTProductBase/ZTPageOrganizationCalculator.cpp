@@ -1,0 +1,4 @@
+#include "ZTPageOrganizationCalculator.h"
+
+ZTPageOrganizationCalculator::ZTPageOrganizationCalculator() = default;
+ZTPageOrganizationCalculator::~ZTPageOrganizationCalculator() = default;

@@ -1,0 +1,4 @@
+#include "ZTProductChecker.h"
+
+ZTProductChecker::ZTProductChecker() = default;
+ZTProductChecker::~ZTProductChecker() = default;
