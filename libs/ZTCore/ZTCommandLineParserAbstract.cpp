@@ -1,0 +1,5 @@
+#include "ZTCommandLineParserAbstract.h"
+
+ZTCommandLineParserAbstract::ZTCommandLineParserAbstract() = default;
+
+ZTCommandLineParserAbstract::~ZTCommandLineParserAbstract() = default;

@@ -1,0 +1,7 @@
+#include "ZTInitializerOption.h"
+
+ZTInitializerOption::ZTInitializerOption(Flags theFlags) : myFlags(theFlags)
+{}
+
+ZTInitializerOption::ZTInitializerOption(Flag theFlag) : myFlags(theFlag)
+{}
