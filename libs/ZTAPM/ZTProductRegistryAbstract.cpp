@@ -1,0 +1,3 @@
+#include "ZTProductRegistryAbstract.h"
+
+ZTProductRegistryAbstract::~ZTProductRegistryAbstract() = default;
