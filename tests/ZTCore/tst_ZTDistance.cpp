@@ -1,5 +1,4 @@
 #include "ZTDistance.h"
-#include "ZTKeyAccountDataType.h"
 
 #include <QTest>
 
@@ -55,16 +54,6 @@ private Q_SLOTS:
         // Halves round away from zero, as the engine expects of lengths.
         QCOMPARE(ZTDistance::fromMillimetres(0.25).roundedPixels(), 3);
         QCOMPARE(ZTDistance::fromMillimetres(-0.25).roundedPixels(), -3);
-    }
-
-    void keyAccountDataTypes()
-    {
-        QCOMPARE(ZTKeyAccountDataType(QStringLiteral("prices")).value(), ZTKeyAccountDataTypePrices);
-        QCOMPARE(ZTKeyAccountDataType(QStringLiteral("8")).value(), ZTKeyAccountDataTypeDeliveryTimes);
-        QCOMPARE(ZTKeyAccountDataType(QStringLiteral("2, prices")).value(),
-                 ZTKeyAccountDataTypeEnum(ZTKeyAccountDataTypeProducts | ZTKeyAccountDataTypePrices));
-        QCOMPARE(ZTKeyAccountDataType(ZTKeyAccountDataTypeDeliveryTimes).encode(),
-                 QStringLiteral("deliverytimes"));
     }
 };
 

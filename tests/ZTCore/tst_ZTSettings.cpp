@@ -1,5 +1,6 @@
 #include "ZTSettings.h"
 #include "ZTSettingsLock.h"
+#include "ZTSingleton.h"
 
 #include <QFile>
 #include <QLockFile>
@@ -19,6 +20,9 @@ private Q_SLOTS:
         // The test helper points the configuration directory into the build tree.
         QVERIFY(ZTSettingsLock::settingsDirectory().startsWith(qEnvironmentVariable("XDG_CONFIG_HOME")));
         QFile::remove(ZTSettings(QStringLiteral("tst_settings")).fileName());
+        // The application's own settings are the singleton of the base class.
+        QVERIFY(
+            ZTSingleton<ZTSettings>::instance()->fileName().endsWith(QStringLiteral("/ztapm/settings.ini")));
     }
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
 
