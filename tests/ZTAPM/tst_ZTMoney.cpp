@@ -48,8 +48,6 @@ private Q_SLOTS:
         ZTMoney failed(-1);
         failed *= 4;
         QCOMPARE(failed.value(), -4);
-        QVERIFY(ZTMoney(100) < ZTMoney(101));
-        QVERIFY(ZTMoney(-1) < ZTMoney(0));
     }
 
     void readsAndWritesDocuments()
@@ -96,10 +94,6 @@ private Q_SLOTS:
         QVERIFY(!(plain < offer));
         QVERIFY(cheaper < offer);
         QVERIFY(offer != ZTPriceBundle(article, 100, 150, 2));
-        const ZTPriceBundle unset;
-        QCOMPARE(unset.articleId().id(), 0);
-        QVERIFY(!unset.price().isValid());
-        QCOMPARE(unset.minCount(), 0);
     }
 
     void orderSources_data()
@@ -151,8 +145,6 @@ private Q_SLOTS:
 
     void orderSourceOrderAndLookup()
     {
-        QCOMPARE(ZTOrderSource().inputSource().value(), ZTInputSourceInvalid);
-        QCOMPARE(ZTOrderSource().deliveryType().value(), ZTDeliveryTypeUndecodable);
         QCOMPARE(
             ZTOrderSource::orderSources(ZTInputSourceOnline),
             (QList<ZTOrderSource>{ZTOrderSource::onlinePointOfSale(), ZTOrderSource::onlineMailOrder()}));
