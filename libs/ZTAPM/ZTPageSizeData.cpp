@@ -1,0 +1,254 @@
+#include "ZTPageSizeData.h"
+
+#include "ZTArticleClass.h"
+#include "ZTDistance.h"
+#include "ZTXMLParser.h"
+
+#include <QDomElement>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// Only the three print classes have crop forms.
+constexpr ZTArticleClassEnum printClasses =
+    ZTArticleClassEnum(ZTArticleClassPrints | ZTArticleClassPremiumPrints | ZTArticleClassEnlargements);
+
+int roundedMillimetres(int thePixels)
+{
+    return int(
+        std::lround(ZTDistance::fromPixels(thePixels).value(ZTDistanceUnit(ZTDistanceUnitMillimetre))));
+}
+
+bool hasBoth(const QDomElement& theElement, const QString& theFirst, const QString& theSecond)
+{
+    return theElement.hasAttribute(theFirst) && theElement.hasAttribute(theSecond);
+}
+
+} // namespace
+
+ZTPageSizeData::ZTPageSizeData() = default;
+
+ZTPageSizeData::ZTPageSizeData(const QSize& thePageSize, const ZTBleedMargin& theBleedMargins)
+    : myPageSize(thePageSize), myBleedMargins(theBleedMargins)
+{}
+
+ZTPageSizeData::ZTPageSizeData(const QDomElement& theElement, const ZTDistanceUnit& theUnit,
+                               const ZTArticleClass& theArticleClass, const ZTPageSizeData& theDefaults)
+{
+    // Each step relies on the one before: the page size includes the extra strips, and the crop
+    // forms look at the finished page size.
+    readExtraPageSize(theElement, theUnit, theDefaults);
+    readPageSize(theElement, theUnit, theDefaults);
+    readBleedMargins(theElement, theUnit, theDefaults);
+    myAllowsVariableWidth =
+        ZTXMLParser::boolAttribute(theElement, QStringLiteral("variable_length_allowed"), false);
+    myMaxWidth = readPixels(theElement, QStringLiteral("max_width"), theUnit, 0.0);
+    readSupportedCropTypes(theElement, theUnit, theArticleClass);
+}
+
+ZTPageSizeData::ZTPageSizeData(const ZTPageSizeData& other) = default;
+ZTPageSizeData::ZTPageSizeData(ZTPageSizeData&& other) noexcept = default;
+ZTPageSizeData& ZTPageSizeData::operator=(const ZTPageSizeData& other) = default;
+ZTPageSizeData& ZTPageSizeData::operator=(ZTPageSizeData&& other) noexcept = default;
+ZTPageSizeData::~ZTPageSizeData() = default;
+
+bool ZTPageSizeData::operator==(const ZTPageSizeData& other) const
+{
+    return myPageSize == other.myPageSize && myExtraPageSize == other.myExtraPageSize &&
+           myBleedMargins == other.myBleedMargins && myAllowsVariableWidth == other.myAllowsVariableWidth &&
+           myMaxWidth == other.myMaxWidth && myCropTypeLengths == other.myCropTypeLengths;
+}
+
+bool ZTPageSizeData::operator!=(const ZTPageSizeData& other) const
+{
+    return !(*this == other);
+}
+
+QSize ZTPageSizeData::pageSizeInPixel() const
+{
+    return myPageSize;
+}
+
+void ZTPageSizeData::setPageSizeInPixel(const QSize& theSize)
+{
+    myPageSize = theSize;
+}
+
+QSize ZTPageSizeData::extraPageSizeInPixel() const
+{
+    return myExtraPageSize;
+}
+
+void ZTPageSizeData::setExtraPageSizeInPixel(const QSize& theSize)
+{
+    myExtraPageSize = theSize;
+}
+
+ZTBleedMargin ZTPageSizeData::pageBleedMarginsInPixel() const
+{
+    return myBleedMargins;
+}
+
+void ZTPageSizeData::setPageBleedMarginsInPixel(const ZTBleedMargin& theBleedMargins)
+{
+    myBleedMargins = theBleedMargins;
+}
+
+QSize ZTPageSizeData::pageSizeInMM() const
+{
+    return QSize(roundedMillimetres(myPageSize.width()), roundedMillimetres(myPageSize.height()));
+}
+
+QSize ZTPageSizeData::pageSizeInMM(const ZTCropType& theCropType) const
+{
+    return QSize(roundedMillimetres(length(theCropType)), roundedMillimetres(myPageSize.height()));
+}
+
+int ZTPageSizeData::length(const ZTCropType& theCropType) const
+{
+    return myCropTypeLengths.value(theCropType, 0);
+}
+
+QSet<ZTCropType> ZTPageSizeData::supportedCropTypes() const
+{
+    QSet<ZTCropType> result;
+    result.reserve(myCropTypeLengths.size());
+    for (auto it = myCropTypeLengths.cbegin(); it != myCropTypeLengths.cend(); ++it)
+        result.insert(it.key());
+    return result;
+}
+
+int ZTPageSizeData::maxEdgeLengthInPixels() const
+{
+    return std::max(myPageSize.width(), myPageSize.height());
+}
+
+int ZTPageSizeData::maxPageWidthInPixel() const
+{
+    return std::max(maxEdgeLengthInPixels(), myMaxWidth);
+}
+
+bool ZTPageSizeData::allowsVariableWidth() const
+{
+    return myAllowsVariableWidth;
+}
+
+void ZTPageSizeData::reducePageSize(const QSize& theReduction)
+{
+    myPageSize -= theReduction;
+}
+
+double ZTPageSizeData::printSizeRatio() const
+{
+    const int longer = std::max(myPageSize.width(), myPageSize.height());
+    const int shorter = std::min(myPageSize.width(), myPageSize.height());
+    if (shorter == 0)
+        return double(longer);
+    return double(longer) / double(shorter);
+}
+
+bool ZTPageSizeData::printSizeIs2By3() const
+{
+    const double ratio = printSizeRatio();
+    return std::abs(ratio - 4.0 / 3.0) >= std::abs(ratio - 3.0 / 2.0);
+}
+
+bool ZTPageSizeData::printSizeIs3By4() const
+{
+    const double ratio = printSizeRatio();
+    return std::abs(ratio - 3.0 / 2.0) > std::abs(ratio - 4.0 / 3.0);
+}
+
+int ZTPageSizeData::readPixels(const QDomElement& theElement, const QString& theName,
+                               const ZTDistanceUnit& theUnit, double theDefault)
+{
+    return ZTXMLParser::readDistance(theElement, theName, theDefault, theUnit).roundedPixels();
+}
+
+void ZTPageSizeData::readExtraPageSize(const QDomElement& theElement, const ZTDistanceUnit& theUnit,
+                                       const ZTPageSizeData& theDefaults)
+{
+    const QString widthName = QStringLiteral("extra_width_left_right");
+    const QString heightName = QStringLiteral("extra_height_top_bottom");
+    if (hasBoth(theElement, widthName, heightName)) {
+        myExtraPageSize = QSize(readPixels(theElement, widthName, theUnit, 0.0),
+                                readPixels(theElement, heightName, theUnit, 0.0));
+    } else {
+        myExtraPageSize = theDefaults.myExtraPageSize;
+    }
+}
+
+void ZTPageSizeData::readPageSize(const QDomElement& theElement, const ZTDistanceUnit& theUnit,
+                                  const ZTPageSizeData& theDefaults)
+{
+    const QString widthName = QStringLiteral("width");
+    const QString heightName = QStringLiteral("height");
+    if (hasBoth(theElement, widthName, heightName)) {
+        // The extra strips lie on both sides.
+        myPageSize = QSize(readPixels(theElement, widthName, theUnit, 0.0) + 2 * myExtraPageSize.width(),
+                           readPixels(theElement, heightName, theUnit, 0.0) + 2 * myExtraPageSize.height());
+    } else {
+        // Taken as it stands: the defaults' size contains its strips already.
+        myPageSize = theDefaults.myPageSize;
+    }
+}
+
+void ZTPageSizeData::readBleedMargins(const QDomElement& theElement, const ZTDistanceUnit& theUnit,
+                                      const ZTPageSizeData& theDefaults)
+{
+    const QString horizontalName = QStringLiteral("bleed_left_right");
+    const QString verticalName = QStringLiteral("bleed_top_bottom");
+    if (hasBoth(theElement, horizontalName, verticalName)) {
+        myBleedMargins = ZTBleedMargin(readPixels(theElement, horizontalName, theUnit, 0.0),
+                                       readPixels(theElement, verticalName, theUnit, 0.0));
+    } else {
+        myBleedMargins = theDefaults.myBleedMargins;
+    }
+}
+
+void ZTPageSizeData::readSupportedCropTypes(const QDomElement& theElement, const ZTDistanceUnit& theUnit,
+                                            const ZTArticleClass& theArticleClass)
+{
+    static const QHash<ZTCropType, QString> keys{
+        {ZTCropType(ZTCropTypeFrame), QStringLiteral("frame_size_width")},
+        {ZTCropType(ZTCropTypePanorama16To9), QStringLiteral("pano_16_to_9_width")},
+    };
+
+    myCropTypeLengths.clear();
+    if (theElement.isNull() || !theArticleClass.matches(printClasses))
+        return;
+
+    // The plain attribute values, without the extra strips.
+    const int height = readPixels(theElement, QStringLiteral("height"), theUnit, 0.0);
+    const int width = readPixels(theElement, QStringLiteral("width"), theUnit, 0.0);
+    const int maxWidth = readPixels(theElement, QStringLiteral("max_width"), theUnit,
+                                    ZTDistance::fromPixels(width).value(theUnit));
+
+    if (width == height && theArticleClass.matches(ZTArticleClassPremiumPrints))
+        myCropTypeLengths.insert(ZTCropType(ZTCropTypeSquare), width);
+
+    if (theArticleClass.matches(ZTArticleClassEnlargements)) {
+        if (printSizeIs2By3())
+            myCropTypeLengths.insert(ZTCropType(ZTCropTypeRatio2To3), width);
+        if (printSizeIs3By4())
+            myCropTypeLengths.insert(ZTCropType(ZTCropTypeRatio3To4), width);
+    } else {
+        myCropTypeLengths.insert(ZTCropType(ZTCropTypeStandard), maxWidth);
+    }
+
+    for (auto it = keys.cbegin(); it != keys.cend(); ++it) {
+        if (theElement.hasAttribute(it.value()))
+            myCropTypeLengths.insert(it.key(), readPixels(theElement, it.value(), theUnit, 0.0));
+    }
+}
+
+void ZTPageSizeData::readPanoramaPartWidth(const QDomElement& theElement, const QString& theName,
+                                           const ZTDistanceUnit& theUnit)
+{
+    if (theElement.hasAttribute(theName))
+        myPageSize = QSize(readPixels(theElement, theName, theUnit, 0.0), myPageSize.height());
+    else
+        myPageSize = QSize(-1, -1);
+}
