@@ -1,0 +1,28 @@
+#include "ZTAPMArticleDeliveryTimes.h"
+
+ZTAPMArticleDeliveryTimes::ZTAPMArticleDeliveryTimes() = default;
+ZTAPMArticleDeliveryTimes::~ZTAPMArticleDeliveryTimes() = default;
+
+QList<QString> ZTAPMArticleDeliveryTimes::articleNodes() const
+{
+    return {QStringLiteral("article"), QStringLiteral("add_on")};
+}
+
+ZTKeyAccountDataType ZTAPMArticleDeliveryTimes::dataType() const
+{
+    return ZTKeyAccountDataType(ZTKeyAccountDataTypeDeliveryTimes);
+}
+
+bool ZTAPMArticleDeliveryTimes::parseElement(const QDomElement& theElement) const
+{
+    const ZTArticleId id = ZTArticleId::fromIdAttribute(theElement);
+    const ZTAPMDeliveryTimes times(theElement.firstChildElement(QStringLiteral("delivery_times")));
+    if (times.isEmpty())
+        return false;
+    return insert(id, times);
+}
+
+ZTAPMDeliveryTimes ZTAPMArticleDeliveryTimes::deliveryTimes(const ZTArticleId& theId) const
+{
+    return data(theId);
+}

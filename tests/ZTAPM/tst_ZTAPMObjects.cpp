@@ -1,0 +1,257 @@
+#include "ZTAPMObjects.h"
+#include "ZTProgramConfig.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+#include <atomic>
+#include <memory>
+#include <vector>
+
+namespace {
+
+std::atomic<int> invalidDefinitionWarnings{0};
+QtMessageHandler previousHandler = nullptr;
+
+void countingHandler(QtMsgType theType, const QMessageLogContext& theContext, const QString& theMessage)
+{
+    if (theMessage.startsWith(QLatin1String("Definition for article 1003 invalid"))) {
+        ++invalidDefinitionWarnings;
+        return;
+    }
+    previousHandler(theType, theContext, theMessage);
+}
+
+// A store of element counts that also counts how often it parses.
+class CountingStore : public ZTAPMArticleData<int>
+{
+public:
+    ZTKeyAccountDataType dataType() const override
+    {
+        return ZTKeyAccountDataType(ZTKeyAccountDataTypeProducts);
+    }
+    bool parseElement(const QDomElement& theElement) const override
+    {
+        ++myParsedElements;
+        return insert(ZTArticleId::fromIdAttribute(theElement), theElement.childNodes().size());
+    }
+    mutable std::atomic<int> myParsedElements{0};
+};
+
+// Runs theQuery on several threads that start at the same moment.
+template <typename Query>
+void runConcurrently(Query theQuery)
+{
+    std::atomic<bool> go{false};
+    std::vector<std::unique_ptr<QThread>> threads;
+    for (int i = 0; i < 8; ++i) {
+        threads.emplace_back(QThread::create([&go, &theQuery] {
+            while (!go.load())
+                QThread::yieldCurrentThread();
+            theQuery();
+        }));
+        threads.back()->start();
+    }
+    go.store(true);
+    for (const auto& thread : threads)
+        thread->wait();
+}
+
+} // namespace
+
+// The per-article stores: lazy loading under concurrent questions, reloads, and ids that occur
+// twice in a document.
+class TestAPMObjects : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir myDirectory;
+
+    void copy(const QString& theSource, const QString& theTarget)
+    {
+        const QString target = myDirectory.filePath(theTarget);
+        QFile::remove(target);
+        QVERIFY(QFile::copy(QStringLiteral(ZT_TEST_DATA_DIR "/") + theSource, target));
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(myDirectory.isValid());
+        for (const char* name : {"products.xml", "prices.xml", "deliverytimes.xml"})
+            copy(QStringLiteral("stores/") + QLatin1String(name), QLatin1String(name));
+        ZTProgramConfig::instance()->setKeyAccountDirectory(myDirectory.path());
+    }
+
+    void concurrentFirstQueries()
+    {
+        // All threads ask an empty store at once; the document is read one time.
+        CountingStore store;
+        std::atomic<int> wrongAnswers{0};
+        runConcurrently([&] {
+            if (store.data(ZTArticleId(7001)) != 2)
+                ++wrongAnswers;
+        });
+        QCOMPARE(wrongAnswers.load(), 0);
+        QCOMPARE(store.myParsedElements.load(), 6);
+
+        // The same for the engine's stores: the invalid article warns once, so it was read once.
+        previousHandler = qInstallMessageHandler(countingHandler);
+        runConcurrently([&] {
+            const ZTAPMObjects* objects = ZTAPMObjects::instance();
+            if (objects->articleDefinition(ZTArticleId(1002)).name() != QLatin1String("Fotobuch A5") ||
+                !objects->priceInfo(ZTArticleId(1001)).isValid() ||
+                objects->deliveryTimes(ZTArticleId(7001)).size() != 1)
+                ++wrongAnswers;
+        });
+        qInstallMessageHandler(previousHandler);
+        QCOMPARE(wrongAnswers.load(), 0);
+        QCOMPARE(invalidDefinitionWarnings.load(), 1);
+    }
+
+    void doubleOccurrence()
+    {
+        const ZTAPMObjects* objects = ZTAPMObjects::instance();
+
+        // Class and price class of the first element, everything else of the second.
+        const ZTAPMArticleDefinition book = objects->articleDefinition(ZTArticleId(1001));
+        QVERIFY(book.isValid());
+        QCOMPARE(qint64(book.articleClass().value()), qint64(ZTArticleClassPhotoBook));
+        QCOMPARE(book.priceClass(), ZTPriceClass::create(QStringLiteral("BOOK_HC")));
+        QCOMPARE(book.name(), QStringLiteral("Fotobuch A4 quer"));
+        QCOMPARE(book.shippingGroupId(), ZTShippingGroupId(3));
+        QCOMPARE(book.arrangement(), ZTProductArrangement(ZTProductArrangementCalendar));
+        QCOMPARE(book.coverType(), ZTCoverType(ZTCoverTypeLayFlat));
+        QCOMPARE(book.numberOfPages(), 24);
+        QCOMPARE(qint64(objects->articleDefinition(ZTArticleId(7001)).articleClass().value()),
+                 qint64(ZTArticleClassSlipcase));
+        QVERIFY(objects->articleDefinition(ZTArticleId(9001)).isValid());
+        QVERIFY(!objects->articleDefinition(ZTArticleId(1003)).isValid());
+        QVERIFY(!objects->articleDefinition(ZTArticleId(4711)).isValid());
+        QVERIFY(
+            !objects->articleDefinitions().definition(ZTProductType(QStringLiteral("BOOK_A4"))).isValid());
+
+        // Prices and delivery times: the later element replaces the earlier one whole.
+        QCOMPARE(objects->priceInfo(ZTArticleId(1001)).priceValues().count(), 1);
+        QCOMPARE(objects->priceInfo(ZTArticleId(1001)).maxDiscountLevel(), 0);
+        // Add-ons are read after articles.
+        QCOMPARE(objects->priceInfo(ZTArticleId(7001)).priceValues().count(), 1);
+        QVERIFY(!objects->priceInfo(ZTArticleId(1005)).isValid());
+
+        const ZTAPMDeliveryTimes times = objects->deliveryTimes(ZTArticleId(1001));
+        QCOMPARE(times.size(), 2);
+        QCOMPARE(times.first().minDays(), 3);
+        QVERIFY(objects->deliveryTimes(ZTArticleId(1002)).isEmpty());
+        QVERIFY(objects->deliveryTimes(ZTArticleId(9001)).isEmpty());
+    }
+
+    void reload()
+    {
+        ZTAPMObjects* objects = ZTAPMObjects::instance();
+        const ZTAPMArticleDefinition heldBook = objects->articleDefinition(ZTArticleId(1001));
+        const ZTAPMDeliveryTimes heldTimes = objects->deliveryTimes(ZTArticleId(1001));
+        copy(QStringLiteral("stores-reload/products.xml"), QStringLiteral("products.xml"));
+        copy(QStringLiteral("stores-reload/deliverytimes.xml"), QStringLiteral("deliverytimes.xml"));
+
+        // Loading is the host's decision; an unknown data type does nothing.
+        objects->updateKeyAccountData(ZTKeyAccountDataType(ZTKeyAccountDataTypeEnum(16)));
+        QCOMPARE(objects->articleDefinition(ZTArticleId(1002)).name(), QStringLiteral("Fotobuch A5"));
+        QCOMPARE(objects->deliveryTimes(ZTArticleId(1001)).first().minDays(), 3);
+
+        objects->updateKeyAccountData(ZTKeyAccountDataType(ZTKeyAccountDataTypeDeliveryTimes));
+        QCOMPARE(objects->deliveryTimes(ZTArticleId(1001)).first().minDays(), 8);
+        QVERIFY(objects->deliveryTimes(ZTArticleId(7001)).isEmpty());
+        QCOMPARE(objects->articleDefinition(ZTArticleId(1002)).name(), QStringLiteral("Fotobuch A5"));
+
+        objects->updateKeyAccountData(ZTKeyAccountDataType(ZTKeyAccountDataTypeProducts));
+        const ZTAPMArticleDefinition book = objects->articleDefinition(ZTArticleId(1001));
+        QCOMPARE(book.name(), QStringLiteral("Fotobuch A4 (neu)"));
+        QCOMPARE(book.shippingGroupId(), ZTShippingGroupId(1));
+        QVERIFY(!objects->articleDefinition(ZTArticleId(1002)).isValid());
+
+        // Copies handed out before stay as they were.
+        QCOMPARE(heldBook.name(), QStringLiteral("Fotobuch A4 quer"));
+        QCOMPARE(heldTimes.size(), 2);
+        QCOMPARE(heldTimes.first().minDays(), 3);
+
+        // A vanished file leaves the old data standing.
+        QVERIFY(QFile::remove(myDirectory.filePath(QStringLiteral("products.xml"))));
+        QVERIFY(QFile::remove(myDirectory.filePath(QStringLiteral("deliverytimes.xml"))));
+        objects->updateKeyAccountData();
+        QCOMPARE(objects->articleDefinition(ZTArticleId(1001)).name(), QStringLiteral("Fotobuch A4 (neu)"));
+        QCOMPARE(objects->deliveryTimes(ZTArticleId(1001)).first().minDays(), 8);
+        QCOMPARE(objects->priceInfo(ZTArticleId(1001)).priceValues().count(), 1);
+    }
+
+    void emptyDocument()
+    {
+        // A document without articles leaves the store empty, and the next question reads again.
+        ZTAPMObjects* objects = ZTAPMObjects::instance();
+        copy(QStringLiteral("stores-reload/empty.xml"), QStringLiteral("deliverytimes.xml"));
+        objects->updateKeyAccountData(ZTKeyAccountDataType(ZTKeyAccountDataTypeDeliveryTimes));
+        QVERIFY(objects->deliveryTimes(ZTArticleId(1001)).isEmpty());
+        copy(QStringLiteral("stores/deliverytimes.xml"), QStringLiteral("deliverytimes.xml"));
+        QCOMPARE(objects->deliveryTimes(ZTArticleId(1001)).size(), 2);
+    }
+
+    void demoCatalogue_data()
+    {
+        QTest::addColumn<int>("id");
+        QTest::addColumn<qint64>("articleClass");
+        QTest::newRow("hardcover book") << 1001 << qint64(ZTArticleClassPhotoBook);
+        QTest::newRow("lay-flat book") << 1008 << qint64(ZTArticleClassPhotoBookLayFlat);
+        QTest::newRow("calendar") << 2004 << qint64(ZTArticleClassCalendar);
+        QTest::newRow("print") << 3002 << qint64(ZTArticleClassPrints);
+        QTest::newRow("poster") << 4001 << qint64(ZTArticleClassPoster);
+        QTest::newRow("canvas") << 5001 << qint64(ZTArticleClassWallDecor);
+        QTest::newRow("picture box") << 5006 << qint64(ZTArticleClassPictureBox);
+        QTest::newRow("card") << 6001 << qint64(ZTArticleClassCard);
+        QTest::newRow("slipcase by its order text") << 7001 << qint64(ZTArticleClassSlipcase);
+        QTest::newRow("page package") << 7003 << qint64(ZTArticleClassPages);
+        QTest::newRow("passepartout") << 7004 << qint64(ZTArticleClassPassepartout);
+        QTest::newRow("frame glass") << 7008 << qint64(ZTArticleClassFrameGlass);
+        QTest::newRow("poster strips") << 7014 << qint64(ZTArticleClassFrame);
+        QTest::newRow("video") << 7020 << qint64(ZTArticleClassVideo);
+        QTest::newRow("transfer") << 9002 << qint64(ZTArticleClassTransfer);
+        QTest::newRow("express fee") << 9101 << qint64(ZTArticleClassExpressFee);
+        QTest::newRow("payment fee") << 9205 << qint64(ZTArticleClassPayMethodFee);
+        QTest::newRow("shipment fee") << 9303 << qint64(ZTArticleClassShipmentMethodFee);
+    }
+    void demoCatalogue()
+    {
+        // The demo key account reads without a single complaint.
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+        QFETCH(int, id);
+        QFETCH(qint64, articleClass);
+        ZTProgramConfig::instance()->setKeyAccountDirectory(QStringLiteral(ZT_DEMO_DATA_DIR));
+        ZTAPMObjects::instance()->updateKeyAccountData();
+        const ZTAPMArticleDefinition article = ZTAPMObjects::instance()->articleDefinition(ZTArticleId(id));
+        QVERIFY(article.isValid());
+        QCOMPARE(qint64(article.articleClass().value()), articleClass);
+        if (articleClass & ZTArticleClassAllArticles)
+            QVERIFY(!ZTAPMObjects::instance()->deliveryTimes(ZTArticleId(id)).isEmpty());
+    }
+
+    void demoDetails()
+    {
+        ZTProgramConfig::instance()->setKeyAccountDirectory(QStringLiteral(ZT_DEMO_DATA_DIR));
+        const ZTAPMObjects* objects = ZTAPMObjects::instance();
+        // 25 sheets make a monthly calendar a twice-monthly one.
+        QCOMPARE(objects->articleDefinition(ZTArticleId(2004)).coverType(),
+                 ZTCoverType(ZTCoverTypeCalendarTwiceMonthly));
+        QCOMPARE(objects->articleDefinition(ZTArticleId(5006)).numberOfPages(), 10);
+        QCOMPARE(objects->articleDefinition(ZTArticleId(3002)).supportedCropTypes().size(), 3);
+        QCOMPARE(objects->articleDefinition(ZTArticleId(5005)).requiredAddOns(),
+                 ZTArticleIdSet({ZTArticleId(7005), ZTArticleId(7008)}));
+        QCOMPARE(objects->articleDefinition(ZTArticleId(7003)).linkedArticleIds().size(), 12);
+        QVERIFY(objects->deliveryTimes(ZTArticleId(1001)).isExpressable());
+        QVERIFY(!objects->deliveryTimes(ZTArticleId(6001)).isExpressable());
+        QVERIFY(objects->priceInfo(ZTArticleId(1001)).isValid());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestAPMObjects)
+#include "tst_ZTAPMObjects.moc"
