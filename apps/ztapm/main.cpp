@@ -6,6 +6,11 @@
 #include "ZTInitializer.h"
 #include "ZTKeyAccount.h"
 #include "ZTKeyAccountDataType.h"
+#include "ZTProductRegistry.h"
+#include "ZTProductRegistryExpressFees.h"
+#include "ZTProductRegistryPaymentFees.h"
+#include "ZTProductRegistryShipmentMethodFees.h"
+#include "ZTProductRegistryTransferFees.h"
 #include "ZTProgramConfig.h"
 #include "ZTResourceFile.h"
 
@@ -78,11 +83,15 @@ int runStartup(bool json)
                                      {QStringLiteral("present"), info.isFile()},
                                      {QStringLiteral("bytes"), info.isFile() ? double(info.size()) : 0.0}});
     }
+    // In the order of registries().
+    const int productCounts[] = {
+        dataBase->products()->productCount(), dataBase->paymentFees()->productCount(),
+        dataBase->transferFees()->productCount(), dataBase->expressFees()->productCount(),
+        dataBase->shipmentMethodFees()->productCount()};
     QJsonArray registries;
-    const QList<ZTProductRegistryAbstract*> slots = dataBase->registries();
-    for (int i = 0; i < slots.size(); ++i) {
+    for (int i = 0; i < dataBase->registries().size(); ++i) {
         registries.append(QJsonObject{{QStringLiteral("name"), QLatin1String(theRegistryNames[i])},
-                                      {QStringLiteral("present"), slots.at(i) != nullptr}});
+                                      {QStringLiteral("products"), productCounts[i]}});
     }
     const QJsonObject report{
         {QStringLiteral("keyAccount"), ZTSingleton<ZTProgramConfig>::instance()->keyAccountDirectory()},
@@ -112,8 +121,8 @@ int runStartup(bool json)
         << "Registries:";
     for (const auto& value : registries) {
         const QJsonObject registry = value.toObject();
-        out << ' ' << registry[QStringLiteral("name")].toString()
-            << (registry[QStringLiteral("present")].toBool() ? " (present)" : " (not built)") << ';';
+        out << ' ' << registry[QStringLiteral("name")].toString() << ' '
+            << registry[QStringLiteral("products")].toInt() << ';';
     }
     out << '\n' << "Warnings: " << theWarnings.size() << '\n';
     for (const QString& warning : std::as_const(theWarnings))

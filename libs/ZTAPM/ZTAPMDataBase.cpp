@@ -1,11 +1,26 @@
 #include "ZTAPMDataBase.h"
 
+#include "ZTAPMPriceKey.h"
+#include "ZTArticleId.h"
+#include "ZTDiscountLimitListKey.h"
+#include "ZTDiscountModel.h"
+#include "ZTExpressKey.h"
 #include "ZTKeyAccount.h"
+#include "ZTOrderSource.h"
 #include "ZTPageOrganizationManager.h"
+#include "ZTPaymentId.h"
+#include "ZTPriceClass.h"
+#include "ZTProductAbstract.h"
 #include "ZTProductCheckerRegistry.h"
-#include "ZTProductRegistryAbstract.h"
+#include "ZTProductRegistry.h"
+#include "ZTProductRegistryExpressFees.h"
+#include "ZTProductRegistryPaymentFees.h"
+#include "ZTProductRegistryShipmentMethodFees.h"
+#include "ZTProductRegistryTransferFees.h"
+#include "ZTProductType.h"
 #include "ZTProgramConfig.h"
 #include "ZTResourceFile.h"
+#include "ZTShippingGroupId.h"
 #include "ZTXMLLoader.h"
 
 #include <QDomElement>
@@ -15,9 +30,17 @@
 namespace {
 // A program variant that works without a catalogue of its own.
 constexpr int programIdWithoutCatalogue = 8;
+// Calendars and the two kinds of photo book: what a new document starts as.
+constexpr ZTArticleClassEnum firstChoiceClasses = ZTArticleClassEnum(7);
 } // namespace
 
-ZTAPMDataBase::ZTAPMDataBase() : myLock(new QRecursiveMutex)
+ZTAPMDataBase::ZTAPMDataBase()
+    : myLock(new QRecursiveMutex)
+    , myTransferFees(new ZTProductRegistryTransferFees)
+    , myShipmentMethodFees(new ZTProductRegistryShipmentMethodFees)
+    , myPaymentFees(new ZTProductRegistryPaymentFees)
+    , myExpressFees(new ZTProductRegistryExpressFees)
+    , myProducts(new ZTProductRegistry)
 {
     qInfo() << "Creating...";
     loadAllProducts();
@@ -31,21 +54,249 @@ ZTAPMDataBase::ZTAPMDataBase() : myLock(new QRecursiveMutex)
 // Registries, products and the lock live to the end of the process: others hold raw pointers.
 ZTAPMDataBase::~ZTAPMDataBase() = default;
 
+ZTProductRegistry* ZTAPMDataBase::products() const
+{
+    return myProducts;
+}
+
+ZTProductRegistryTransferFees* ZTAPMDataBase::transferFees() const
+{
+    return myTransferFees;
+}
+
+ZTProductRegistryPaymentFees* ZTAPMDataBase::paymentFees() const
+{
+    return myPaymentFees;
+}
+
+ZTProductRegistryExpressFees* ZTAPMDataBase::expressFees() const
+{
+    return myExpressFees;
+}
+
+ZTProductRegistryShipmentMethodFees* ZTAPMDataBase::shipmentMethodFees() const
+{
+    return myShipmentMethodFees;
+}
+
 QList<ZTProductRegistryAbstract*> ZTAPMDataBase::registries() const
 {
-    return QList<ZTProductRegistryAbstract*>(myRegistries.cbegin(), myRegistries.cend());
+    return {myProducts, myPaymentFees, myTransferFees, myExpressFees, myShipmentMethodFees};
 }
 
 ZTProductAbstract* ZTAPMDataBase::productAbstract(const ZTArticleId& theId) const
 {
     QMutexLocker locker(myLock);
-    for (RegistrySlot slot : {Products, ExpressFees, TransferFees, ShipmentMethodFees, PaymentFees}) {
-        if (ZTProductRegistryAbstract* registry = myRegistries[slot]) {
-            if (ZTProductAbstract* product = registry->productWithArticleID(theId))
-                return product;
-        }
+    for (const ZTProductRegistryAbstract* registry : std::initializer_list<const ZTProductRegistryAbstract*>{
+             myProducts, myExpressFees, myTransferFees, myShipmentMethodFees, myPaymentFees}) {
+        if (ZTProductAbstract* product = registry->productWithArticleID(theId))
+            return product;
     }
     return nullptr;
+}
+
+ZTProductAbstract* ZTAPMDataBase::productAbstract(const ZTProductType& theType) const
+{
+    if (!theType.isValid())
+        return nullptr;
+    QMutexLocker locker(myLock);
+    return myProducts->findProductAbstract(theType);
+}
+
+ZTProductAbstract* ZTAPMDataBase::firstValidProductAbstract() const
+{
+    const ZTProductList candidates = productsForArticleClass(firstChoiceClasses);
+    return candidates.isEmpty() ? nullptr : candidates.first();
+}
+
+bool ZTAPMDataBase::existsAnyAddOn(const ZTArticleClass& theClass) const
+{
+    QMutexLocker locker(myLock);
+    return myProducts->existsAnyAddOn(theClass);
+}
+
+ZTProductList ZTAPMDataBase::addOnsForClass(const ZTArticleClass& theClass) const
+{
+    return myProducts->allAddOns().filter(theClass);
+}
+
+ZTDiscountLimitSet ZTAPMDataBase::discountLimits(const ZTDiscountLimitListKey& theKey) const
+{
+    QMutexLocker locker(myLock);
+    return myProducts->discountLimits(theKey);
+}
+
+bool ZTAPMDataBase::containsDiscountModel(const ZTShippingGroupId& theShippingGroupId,
+                                          const ZTAPMPriceKey& thePriceKey,
+                                          const ZTDiscountModel& theModel) const
+{
+    QMutexLocker locker(myLock);
+    return myProducts->containsDiscountModel(theShippingGroupId, thePriceKey, theModel);
+}
+
+ZTProductList ZTAPMDataBase::productsForArticleClass(const ZTArticleClass& theClass) const
+{
+    QMutexLocker locker(myLock);
+    return myProducts->productsForArticleClass(theClass);
+}
+
+ZTProductList ZTAPMDataBase::productsForShippingGroup(const ZTShippingGroupId& theShippingGroupId) const
+{
+    QMutexLocker locker(myLock);
+    return myProducts->productsForShippingGroup(theShippingGroupId, true);
+}
+
+bool ZTAPMDataBase::shippingTimesEnabled(const ZTShippingGroupId& theShippingGroupId,
+                                         const ZTOrderSource& theOrderSource,
+                                         const ZTExpressType& theExpressType) const
+{
+    QMutexLocker locker(myLock);
+    return myProducts->shippingTimesEnabled(theShippingGroupId, theOrderSource, theExpressType);
+}
+
+bool ZTAPMDataBase::shippingGroupHasUnitTransferPrice(const ZTShippingGroupId& theShippingGroupId,
+                                                      const ZTAPMPriceKey& thePriceKey) const
+{
+    QMutexLocker locker(myLock);
+    return myProducts->shippingGroupHasUnitTransferPrice(theShippingGroupId, thePriceKey);
+}
+
+ZTProductList ZTAPMDataBase::findDependentProducts(const ZTArticleId& theId,
+                                                   const ZTArticleClass& theClass) const
+{
+    QMutexLocker locker(myLock);
+    return myProducts->findDependentProducts(theId, theClass);
+}
+
+ZTProductAbstract* ZTAPMDataBase::findDependentProduct(const ZTArticleId& theId,
+                                                       const ZTPriceClass& thePriceClass) const
+{
+    QMutexLocker locker(myLock);
+    return myProducts->findDependentProduct(theId, thePriceClass);
+}
+
+ZTProductAbstract* ZTAPMDataBase::findDependentProduct(const ZTArticleId& theId,
+                                                       const ZTPriceClass& theTarget,
+                                                       const QList<ZTPriceClass>& thePath)
+{
+    if (ZTProductAbstract* direct = findDependentProduct(theId, theTarget))
+        return direct;
+    for (const ZTPriceClass& step : thePath) {
+        const ZTProductAbstract* intermediate = findDependentProduct(theId, step);
+        if (!intermediate)
+            continue;
+        // Each descent uses up a class, so the recursion ends.
+        QList<ZTPriceClass> rest = thePath;
+        rest.removeAll(step);
+        if (ZTProductAbstract* found = findDependentProduct(intermediate->articleId(), theTarget, rest))
+            return found;
+    }
+    return nullptr;
+}
+
+ZTEmptyMeansAllSet<ZTProductAbstract*>
+ZTAPMDataBase::findProducts(const ZTEmptyMeansAllSet<ZTArticleClass>& theClasses,
+                            const ZTEmptyMeansAllSet<ZTCoverType>& theCovers) const
+{
+    QMutexLocker locker(myLock);
+    return myProducts->findProducts(theClasses, theCovers);
+}
+
+ZTProductAbstract* ZTAPMDataBase::mostEquivalentProduct(ZTProductAbstract* theProduct,
+                                                        const ZTArticleClass& theClass) const
+{
+    QMutexLocker locker(myLock);
+    return myProducts->mostEquivalentProduct(theProduct, theClass);
+}
+
+bool ZTAPMDataBase::existsDependentProduct(const ZTArticleId& theId, const ZTArticleClass& theClass) const
+{
+    QMutexLocker locker(myLock);
+    return myProducts->existsDependentProduct(theId, theClass);
+}
+
+ZTProductAbstract* ZTAPMDataBase::transferProduct(const ZTShippingGroupId& theShippingGroupId) const
+{
+    QMutexLocker locker(myLock);
+    return myTransferFees->transferProduct(theShippingGroupId);
+}
+
+ZTProductAbstract* ZTAPMDataBase::paymentFeeProduct(const ZTPaymentId& thePaymentId) const
+{
+    QMutexLocker locker(myLock);
+    return myPaymentFees->paymentFeeProduct(thePaymentId);
+}
+
+bool ZTAPMDataBase::expressFeeProductsExist() const
+{
+    QMutexLocker locker(myLock);
+    return myExpressFees->expressFeeProductsExist();
+}
+
+QList<const ZTProductAbstract*>
+ZTAPMDataBase::expressFeeProducts(const ZTShippingGroupId& theShippingGroupId) const
+{
+    QMutexLocker locker(myLock);
+    return myExpressFees->expressFeeProducts(theShippingGroupId);
+}
+
+ZTProductAbstract* ZTAPMDataBase::expressFeeProduct(const ZTExpressKey& theKey) const
+{
+    QMutexLocker locker(myLock);
+    return myExpressFees->expressFeeProduct(theKey);
+}
+
+ZTExpressType ZTAPMDataBase::expressType(const ZTArticleId& theId) const
+{
+    QMutexLocker locker(myLock);
+    return myExpressFees->expressType(theId);
+}
+
+ZTProductAbstract* ZTAPMDataBase::shipmentMethodFeeProduct(int theShipmentMethodId) const
+{
+    QMutexLocker locker(myLock);
+    return myShipmentMethodFees->shipmentMethodFeeProduct(theShipmentMethodId);
+}
+
+int ZTAPMDataBase::idOfShipmentMethodFeeProduct(int theShipmentMethodId) const
+{
+    QMutexLocker locker(myLock);
+    return myShipmentMethodFees->idOfShipmentMethodFeeProduct(theShipmentMethodId);
+}
+
+bool ZTAPMDataBase::productIsExpressable(ZTProductAbstract* theProduct) const
+{
+    QMutexLocker locker(myLock);
+    return theProduct && theProduct->isExpressable() &&
+           myExpressFees->hasAnyExpressFeeProduct(theProduct->shippingGroupId());
+}
+
+bool ZTAPMDataBase::productIsExpressable(const ZTArticleId& theId) const
+{
+    QMutexLocker locker(myLock);
+    return productIsExpressable(productAbstract(theId));
+}
+
+bool ZTAPMDataBase::shippingGroupIsExpressable(const ZTShippingGroupId& theShippingGroupId) const
+{
+    QMutexLocker locker(myLock);
+    for (ZTProductAbstract* product : myProducts->productList(theShippingGroupId)) {
+        if (productIsExpressable(product))
+            return true;
+    }
+    return false;
+}
+
+ZTExpressTypeList ZTAPMDataBase::supportedExpressTypes(const ZTShippingGroupId& theShippingGroupId,
+                                                       const ZTAPMPriceKey& thePriceKey) const
+{
+    QMutexLocker locker(myLock);
+    ZTExpressTypeList result;
+    for (const ZTExpressType& type : myExpressFees->findExpressTypes(theShippingGroupId, thePriceKey)) {
+        if (shippingTimesEnabled(theShippingGroupId, thePriceKey.orderSource(), type))
+            result.append(type);
+    }
+    return result;
 }
 
 void ZTAPMDataBase::loadAllProducts()
@@ -66,10 +317,8 @@ void ZTAPMDataBase::updateProducts(const QDomNode& theRoot)
         QMutexLocker locker(myLock);
         if (theRoot.isNull())
             return;
-        for (ZTProductRegistryAbstract* registry : registries()) {
-            if (registry)
-                registry->readProducts(theRoot);
-        }
+        for (ZTProductRegistryAbstract* registry : registries())
+            registry->readProducts(theRoot);
         ZTSingleton<ZTPageOrganizationManager>::instance()->clearCache();
         ZTSingleton<ZTProductCheckerRegistry>::instance()->clearCaches();
         ++myUpdateCount;

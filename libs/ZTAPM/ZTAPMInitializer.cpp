@@ -2,6 +2,10 @@
 
 #include "ZTAPMDataBase.h"
 #include "ZTInitializer.h"
+#include "ZTPageOrganizationCalculatorAPM.h"
+#include "ZTPageOrganizationManager.h"
+
+#include <QDebug>
 
 ZTAPMInitializer ZTAPMInitializer::me;
 
@@ -16,6 +20,8 @@ void ZTAPMInitializer::setup(ZTInitializerOption)
 {
     // Constructing the data base loads the catalogue.
     ZTSingleton<ZTAPMDataBase>::instance();
+    ZTSingleton<ZTPageOrganizationManager>::instance()->setCalculator(new ZTPageOrganizationCalculatorAPM);
+    qInfo() << "Calculator set for Page Organization Manager (POM).";
 }
 
 void ZTAPMInitializer::teardown()

@@ -4,6 +4,8 @@
 #include "ZTEnumToStringTable.h"
 #include "ztapm_export.h"
 
+class ZTShippingGroupId;
+
 // How fast the goods travel; a bit set. The keywords are the server's codes, so "3" stands for 2.
 enum ZTExpressTypeEnum : qint32 {
     ZTExpressTypeNone = 0,
@@ -19,6 +21,9 @@ public:
 
     // The checkout icon for any value that includes express shipping.
     QString iconName() const;
+    // What the order dialogs call this kind of shipping in the group; express is named by the
+    // group's express fee article, and empty when the group has none.
+    QString humanReadableName(const ZTShippingGroupId& theShippingGroupId) const;
 
     void fillTable(ZTEnumToStringTable<ZTExpressTypeEnum>* theTable) const override;
 };

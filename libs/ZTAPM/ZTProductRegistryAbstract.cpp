@@ -1,3 +1,46 @@
 #include "ZTProductRegistryAbstract.h"
 
+#include "ZTArticleId.h"
+#include "ZTProductAbstract.h"
+#include "ZTProductFactory.h"
+#include "ZTShippingGroupId.h"
+
+#include <QDebug>
+#include <QDomElement>
+
+ZTProductRegistryAbstract::ZTProductRegistryAbstract() = default;
 ZTProductRegistryAbstract::~ZTProductRegistryAbstract() = default;
+
+void ZTProductRegistryAbstract::readProducts(const QDomNode& theRoot)
+{
+    setProductsDeprecated();
+    for (const QString& keyWord : xmlKeyWords()) {
+        const QString sectionName = keyWord + QLatin1Char('s');
+        const QDomElement section = theRoot.firstChildElement(sectionName);
+        if (section.isNull())
+            qWarning() << "no node" << sectionName;
+        for (QDomElement element = section.firstChildElement(keyWord); !element.isNull();
+             element = element.nextSiblingElement(keyWord)) {
+            if (ZTProductAbstract* known = productWithArticleID(ZTArticleId::fromIdAttribute(element))) {
+                known->update(element);
+            } else if (ZTProductAbstract* product = buildAbstractProduct(element)) {
+                registerProduct(element, product);
+            }
+        }
+    }
+}
+
+ZTProductAbstract* ZTProductRegistryAbstract::buildAbstractProduct(const QDomElement& theElement)
+{
+    ZTProductAbstract* product = ZTSingleton<ZTProductFactory>::instance()->build(theElement);
+    if (!product)
+        qWarning().noquote() << QStringLiteral("-- article unsupported: %1 - '%2'")
+                                    .arg(theElement.attribute(QStringLiteral("id")),
+                                         theElement.attribute(QStringLiteral("name")));
+    return product;
+}
+
+ZTShippingGroupId ZTProductRegistryAbstract::readShippingGroupId(const QDomElement& theElement) const
+{
+    return ZTShippingGroupId(theElement, QStringLiteral("group"));
+}

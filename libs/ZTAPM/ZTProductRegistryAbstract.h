@@ -3,19 +3,38 @@
 
 #include "ztapm_export.h"
 
+#include <QList>
+#include <QString>
+
+class QDomElement;
 class QDomNode;
 class ZTArticleId;
 class ZTProductAbstract;
+class ZTShippingGroupId;
 
-// What the data base needs of each of its registries: read a products document into products,
-// and find a product by article id. All calls run under the data base's lock.
+// The reading loop that all registries of the data base share: a products document's sections
+// become products, known products are updated in place and keep their identity. Registries have
+// no lock of their own; every call runs under the data base's lock.
 class ZTAPM_EXPORT ZTProductRegistryAbstract
 {
 public:
+    ZTProductRegistryAbstract();
     virtual ~ZTProductRegistryAbstract();
 
     virtual ZTProductAbstract* productWithArticleID(const ZTArticleId& theId) const = 0;
-    virtual void readProducts(const QDomNode& theRoot) = 0;
+    // Takes ownership of theProduct; may delete it at once when it does not belong here.
+    virtual void registerProduct(const QDomElement& theElement, ZTProductAbstract* theProduct) = 0;
+    // Called before each reading.
+    virtual void setProductsDeprecated() = 0;
+    // The element names this registry reads; each stands in a section of its name with an "s".
+    virtual QList<QString> xmlKeyWords() const = 0;
+
+    void readProducts(const QDomNode& theRoot);
+    ZTProductAbstract* buildAbstractProduct(const QDomElement& theElement);
+    ZTShippingGroupId readShippingGroupId(const QDomElement& theElement) const;
+
+private:
+    Q_DISABLE_COPY(ZTProductRegistryAbstract)
 };
 
 #endif // ZTPRODUCTREGISTRYABSTRACT_H

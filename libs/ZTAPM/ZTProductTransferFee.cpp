@@ -1,0 +1,6 @@
+#include "ZTProductTransferFee.h"
+
+ZTProductTransferFee::ZTProductTransferFee(const QDomElement& theElement) : ZTProductAbstract(theElement)
+{}
+
+ZTProductTransferFee::~ZTProductTransferFee() = default;
