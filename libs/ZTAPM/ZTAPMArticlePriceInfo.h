@@ -16,6 +16,10 @@
 
 class QDebug;
 class QDomElement;
+class ZTAPMBillPosition;
+class ZTAPMBillPositionList;
+class ZTAPMOrderStatistic;
+class ZTProductAbstract;
 
 // Everything known about the price of one article: its table of rows, the models that occur in
 // it and, for a transfer article, its transfer model. Built from the article's node of the prices
@@ -95,9 +99,82 @@ public:
     // removed. Nothing for a key of level 0 unless its model is bulk.
     ZTDiscountLimitSet discountLimits(const ZTAPMPriceKey& theKey) const;
 
+    // The catalogue's product of this article; null if the catalogue has none.
+    ZTProductAbstract* product() const;
+    // One piece has a price in this way of ordering.
+    bool isOrderableThisWay(const ZTOrderSource& theOrderSource) const;
+    // Through a CD point of sale, or else an online one.
+    bool canOrderPOS() const;
+
+    // Pricing. Every amount is exact in hundredths; -1 means no price. theBill is the bill under
+    // construction, seen as its list of positions (a bill is one): with it, the chosen model's
+    // positions are appended to it, and an add-on takes over the discount level its linked
+    // articles have reached there. Without it nothing but the amount is computed.
+
+    // The entry point: a basket-wide transfer, an express fee in the model the key names, or the
+    // best model of the article for theCount pieces and goods worth theBillingSum.
+    ZTMoney priceFor(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
+                     ZTAPMBillPositionList* theBill, const ZTAPMOrderStatistic* theStatistic) const;
+    // The amount in the key's model; an unpriceable model leaves an invalid position in a bill.
+    ZTMoney priceInModel(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
+                         ZTAPMBillPositionList* theBill) const;
+    // The model of the cheapest price, except that "z" and "I" win whenever they price at all;
+    // 0 if no model prices. Models are tried without positions.
+    ZTDiscountModel bestDiscountModel(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
+                                      int theInheritedLevel) const;
+    // The transfer's amount without positions: for a basket-wide transfer only its base half.
+    ZTMoney transferPriceFor(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
+                             const ZTAPMOrderStatistic* theStatistic) const;
+
+    // The models, each usable on its own. With theList the new positions are appended to it and
+    // belong to the caller.
+
+    // "b": per piece, at the level theCount reaches; one position of theCount units.
+    ZTMoney priceBulk(const ZTAPMPriceKey& theKey, int theCount, ZTAPMBillPositionList* theList) const;
+    // "f": one amount for the whole quantity; 0 and no position for no pieces. A missing row
+    // gives -1 and a position of -1.
+    ZTMoney priceBulkTransfer(const ZTAPMPriceKey& theKey, int theCount,
+                              ZTAPMBillPositionList* theList) const;
+    // "x": as "f".
+    ZTMoney priceExpressFee(const ZTAPMPriceKey& theKey, int theCount, ZTAPMBillPositionList* theList) const;
+    // "I": per piece at the key's level, or the nearest lower level that exists.
+    ZTMoney priceInheritedDiscount(const ZTAPMPriceKey& theKey, int theCount,
+                                   ZTAPMBillPositionList* theList) const;
+    // "w": the base package at level 1, further pieces at the level reached; one position of one
+    // unit of theCount pieces.
+    ZTMoney priceFotoPackage(const ZTAPMPriceKey& theKey, int theCount, ZTAPMBillPositionList* theList) const;
+    // "z": one amount by the goods' sum; below the first "z" bound the level 0 "f" row applies.
+    ZTMoney priceBillingSumTransfer(const ZTAPMPriceKey& theKey, const ZTMoney& theBillingSum,
+                                    ZTAPMBillPositionList* theList) const;
+    // A basket-wide transfer (transfer model 2): the highest base price of the basket once, and
+    // every other piece at its unit price; one position of model 64 in a bill.
+    ZTMoney priceInTransferModel2(const ZTAPMPriceKey& theKey, const ZTAPMOrderStatistic* theStatistic,
+                                  ZTAPMBillPositionList* theBill) const;
+    // The highest base transfer price of the products the basket holds pieces of; 0 without one.
+    ZTMoney baseTransferPriceInTransferModel2(const ZTAPMPriceKey& theKey,
+                                              const ZTAPMOrderStatistic* theStatistic) const;
+    // Every piece at its unit transfer price, except one piece of the product with the highest
+    // base price, whose base price stands in for it; 0 without a basket.
+    ZTMoney unitTransferPriceInTransferModel2(const ZTAPMPriceKey& theKey,
+                                              const ZTAPMOrderStatistic* theStatistic) const;
+
+    // A new position for product(), owned by the caller.
+    ZTAPMBillPosition* createBillPosition(int theUnitCount, int theItemsPerUnit,
+                                          const ZTDiscountLimit& theLimit, const ZTMoney& theUnitPrice,
+                                          const ZTMoney& theNonOfferPrice) const;
+    // The same with the row's limit, price and non-offer price.
+    ZTAPMBillPosition* createBillPosition(int theUnitCount, int theItemsPerUnit,
+                                          const ZTAPMPriceValue& theValue) const;
+
     QString dump() const;
 
 private:
+    // "f" and "x": one amount for the quantity, from the key's model.
+    ZTMoney priceFlat(const ZTAPMPriceKey& theKey, int theCount, ZTAPMBillPositionList* theList) const;
+    // The highest level that the linked articles of this add-on have reached in theBill; 0 for
+    // an article that is no add-on.
+    int inheritedDiscountLevel(const ZTAPMBillPositionList& theBill) const;
+
     ZTArticleId myArticleId;
     ZTAPMPriceValues myPriceValues;
     QSet<ZTDiscountModel> myDiscountModels;

@@ -1,0 +1,166 @@
+#include "ZTAPMArticlePriceInfo.h"
+#include "ZTAPMBillPosition.h"
+#include "ZTAPMBillPositionInvalid.h"
+#include "ZTAPMBillPositionList.h"
+
+#include <QDomDocument>
+#include <QFile>
+#include <QHash>
+#include <QTest>
+
+// The price models: which model prices an article, the amount to the cent, and the positions a
+// bill under construction receives.
+class tst_ZTAPMPriceModels : public QObject
+{
+    Q_OBJECT
+
+private:
+    QHash<int, ZTAPMArticlePriceInfo> myInfos;
+
+    static ZTOrderSource orderSource(const QString& theName)
+    {
+        if (theName == QLatin1String("pos"))
+            return ZTOrderSource::onlinePointOfSale();
+        if (theName == QLatin1String("cd"))
+            return ZTOrderSource::cdPointOfSale();
+        return ZTOrderSource::onlineMailOrder();
+    }
+
+    // "units x items @ unit price / non-offer price, model:level lower..upper", one per position.
+    static QString listing(const ZTAPMBillPositionList& thePositions)
+    {
+        QStringList lines;
+        for (const ZTAPMBillPositionAbstract* entry : thePositions) {
+            if (dynamic_cast<const ZTAPMBillPositionInvalid*>(entry)) {
+                lines.append(QStringLiteral("invalid"));
+                continue;
+            }
+            const ZTDiscountLimit limit = entry->discountLimit();
+            lines.append(QStringLiteral("%1x%2@%3/%4 %5:%6 %7..%8")
+                             .arg(entry->unitCount())
+                             .arg(entry->itemsPerUnit())
+                             .arg(entry->unitPrice().value())
+                             .arg(entry->nonOfferPrice().value())
+                             .arg(int(limit.discountModel().value()))
+                             .arg(limit.discountLevel())
+                             .arg(limit.lowerLimit())
+                             .arg(limit.upperLimit()));
+        }
+        return lines.join(QStringLiteral("; "));
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QFile file(QStringLiteral(ZT_TEST_DATA_DIR "/models/prices.xml"));
+        QDomDocument doc;
+        QVERIFY(file.open(QIODevice::ReadOnly) && doc.setContent(&file));
+        const QDomElement root = doc.documentElement();
+        for (const QString& name : ZTAPMArticlePriceInfo::xtciNodeNames()) {
+            const QDomElement section = root.firstChildElement(ZTAPMArticlePriceInfo::xtciSectionName(name));
+            for (QDomElement node = section.firstChildElement(name); !node.isNull();
+                 node = node.nextSiblingElement(name)) {
+                const ZTAPMArticlePriceInfo info = ZTAPMArticlePriceInfo::createFromXTCI(node);
+                myInfos.insert(info.articleId().id(), info);
+            }
+        }
+    }
+
+    void priceFor_data()
+    {
+        QTest::addColumn<QStringList>("request");
+        QTest::addColumn<int>("amount");
+        QTest::addColumn<QString>("positions");
+
+        QFile file(QStringLiteral(ZT_TEST_DATA_DIR "/models/pricefor.txt"));
+        QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
+        while (!file.atEnd()) {
+            const QString line = QString::fromUtf8(file.readLine()).trimmed();
+            if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+                continue;
+            const QStringList fields = line.split(QLatin1Char('|'));
+            QCOMPARE(fields.size(), 4);
+            QTest::newRow(qPrintable(fields.at(0).trimmed()))
+                << fields.at(1).split(QLatin1Char(' '), Qt::SkipEmptyParts) << fields.at(2).trimmed().toInt()
+                << fields.at(3).trimmed();
+        }
+    }
+
+    // The amount is the same with and without a bill; only the bill receives positions.
+    void priceFor()
+    {
+        QFETCH(QStringList, request);
+        QFETCH(int, amount);
+        QFETCH(QString, positions);
+
+        QCOMPARE(request.size(), 5);
+        QVERIFY(myInfos.contains(request.at(0).toInt()));
+        const ZTAPMArticlePriceInfo& info = myInfos[request.at(0).toInt()];
+        const ZTAPMPriceKey key(orderSource(request.at(1)), -1, ZTDiscountModelEnum(request.at(2).toInt()));
+        const int count = request.at(3).toInt();
+        const int billingSum = request.at(4).toInt();
+        QCOMPARE(info.priceFor(key, count, ZTMoney(billingSum), nullptr, nullptr), ZTMoney(amount));
+
+        ZTAPMBillPositionList bill;
+        QCOMPARE(info.priceFor(key, count, ZTMoney(billingSum), &bill, nullptr), ZTMoney(amount));
+        QCOMPARE(listing(bill), positions);
+        qDeleteAll(bill);
+    }
+
+    void modelsOnTheirOwn()
+    {
+        const ZTAPMPriceKey mail(ZTOrderSource::onlineMailOrder());
+
+        // An inherited level beyond the add-on's ladder falls to the nearest lower row.
+        const ZTAPMArticlePriceInfo& addOn = myInfos[90007];
+        ZTAPMBillPositionList list;
+        ZTAPMPriceKey key(ZTOrderSource::onlineMailOrder(), 3, ZTDiscountModelInherited);
+        QCOMPARE(addOn.priceInheritedDiscount(key, 2, &list), ZTMoney(200));
+        key.setDiscountLevel(1);
+        QCOMPARE(addOn.priceInheritedDiscount(key, 2, &list), ZTMoney(300));
+        QCOMPARE(
+            addOn.priceFor(ZTAPMPriceKey(ZTOrderSource::cdPointOfSale()), 1, ZTMoney(0), nullptr, nullptr),
+            ZTMoney(-1));
+        QCOMPARE(listing(list), QStringLiteral("2x1@100/-1 256:2 1..-1; 2x1@150/-1 256:0 1..-1"));
+        qDeleteAll(list);
+        list.clear();
+
+        // "z" and "I" win whenever they price; otherwise the cheapest, and 0 if nothing prices.
+        QCOMPARE(myInfos[90003].bestDiscountModel(mail, 1, ZTMoney(2500), 0),
+                 ZTDiscountModel(ZTDiscountModelBillingSumTransfer));
+        QCOMPARE(myInfos[90002].bestDiscountModel(mail, 1, ZTMoney(0), 0),
+                 ZTDiscountModel(ZTDiscountModelBulkTransfer));
+        QCOMPARE(addOn.bestDiscountModel(mail, 1, ZTMoney(0), 5), ZTDiscountModel(ZTDiscountModelInherited));
+        QCOMPARE(myInfos[90013].bestDiscountModel(mail, 1, ZTMoney(0), 0), ZTDiscountModel());
+
+        // Models called directly leave positions, even for a missing row.
+        QCOMPARE(myInfos[90001].priceBulk(ZTAPMPriceKey(mail, ZTDiscountModelBulk), 12, &list),
+                 ZTMoney(2988));
+        QCOMPARE(myInfos[90001].priceBulkTransfer(mail, 1, &list), ZTMoney(-1));
+        QCOMPARE(myInfos[90003].priceBillingSumTransfer(mail, ZTMoney(4999), &list), ZTMoney(495));
+        QCOMPARE(myInfos[90009].priceFotoPackage(ZTAPMPriceKey(mail, ZTDiscountModelBulk), 30, &list),
+                 ZTMoney(-1));
+        QCOMPARE(listing(list),
+                 QStringLiteral("12x1@249/-1 2:1 10..99; 1x1@-1/-1 0:0 1..-1; 1x1@495/-1 16:0 1..-1"));
+        qDeleteAll(list);
+
+        // The transfer price never makes positions and, over a basket, is the base half only.
+        QCOMPARE(myInfos[90003].transferPriceFor(mail, 2, ZTMoney(6000), nullptr), ZTMoney(0));
+        QCOMPARE(myInfos[90005].transferPriceFor(mail, 9, ZTMoney(0), nullptr), ZTMoney(995));
+        QCOMPARE(myInfos[90011].transferPriceFor(mail, 9, ZTMoney(0), nullptr), ZTMoney(0));
+    }
+
+    void orderable()
+    {
+        QVERIFY(myInfos[90001].isOrderableThisWay(ZTOrderSource::onlineMailOrder()));
+        QVERIFY(!myInfos[90001].isOrderableThisWay(ZTOrderSource::onlinePointOfSale()));
+        QVERIFY(!myInfos[90001].canOrderPOS());
+        QVERIFY(myInfos[90002].canOrderPOS());
+        QVERIFY(!myInfos[90013].isOrderableThisWay(ZTOrderSource::onlineMailOrder()));
+        // A flat fee of 0 pieces costs nothing, which is a price.
+        QVERIFY(myInfos[90011].isOrderableThisWay(ZTOrderSource::cdPointOfSale()));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_ZTAPMPriceModels)
+#include "tst_ZTAPMPriceModels.moc"
