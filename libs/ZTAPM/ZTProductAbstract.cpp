@@ -83,8 +83,8 @@ bool ZTProductAbstract::isValid() const
 
 ZTMoney ZTProductAbstract::price(const ZTAPMPriceKey&, int, const ZTMoney&) const
 {
-    // The price models answer here once they are part of the engine.
-    return ZTMoney();
+    // No price until the price models answer here.
+    return ZTMoney(ZTMoney::noPrice);
 }
 
 ZTMoney ZTProductAbstract::minPrice(bool theAllLimits) const
