@@ -81,10 +81,10 @@ bool ZTProductAbstract::isValid() const
     return true;
 }
 
-ZTMoney ZTProductAbstract::price(const ZTAPMPriceKey&, int, const ZTMoney&) const
+ZTMoney ZTProductAbstract::price(const ZTAPMPriceKey& theKey, int theCount,
+                                 const ZTMoney& theBillingSum) const
 {
-    // No price until the price models answer here.
-    return ZTMoney(ZTMoney::noPrice);
+    return priceFor(theKey, theCount, theBillingSum, nullptr, nullptr);
 }
 
 ZTMoney ZTProductAbstract::minPrice(bool theAllLimits) const
@@ -324,6 +324,36 @@ bool ZTProductAbstract::hasDiscountModel(const ZTOrderSource& theOrderSource,
                                          const ZTDiscountModel& theModel) const
 {
     return priceInfo().hasDiscountModel(theOrderSource, theModel);
+}
+
+bool ZTProductAbstract::isOrderableViaPOS() const
+{
+    return priceInfo().canOrderPOS();
+}
+
+bool ZTProductAbstract::isOrderableThisWay(const ZTOrderSource& theOrderSource) const
+{
+    return priceInfo().isOrderableThisWay(theOrderSource);
+}
+
+ZTMoney ZTProductAbstract::unitTransferPriceFor(const ZTAPMPriceKey& theKey,
+                                                const ZTAPMOrderStatistic* theStatistic) const
+{
+    return priceInfo().unitTransferPriceInTransferModel2(theKey, theStatistic);
+}
+
+ZTMoney ZTProductAbstract::transferPriceFor(const ZTAPMPriceKey& theKey, int theCount,
+                                            const ZTMoney& theBillingSum,
+                                            const ZTAPMOrderStatistic* theStatistic) const
+{
+    return priceInfo().transferPriceFor(theKey, theCount, theBillingSum, theStatistic);
+}
+
+ZTMoney ZTProductAbstract::priceFor(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
+                                    ZTAPMBillPositionList* theBill,
+                                    const ZTAPMOrderStatistic* theStatistic) const
+{
+    return priceInfo().priceFor(theKey, theCount, theBillingSum, theBill, theStatistic);
 }
 
 bool ZTProductAbstract::shippingTimesEnabled() const

@@ -23,7 +23,9 @@
 
 class QDebug;
 class QDomElement;
+class ZTAPMBillPositionList;
 class ZTAPMDeliveryTime;
+class ZTAPMOrderStatistic;
 class ZTAPMPriceKey;
 class ZTDeliveryType;
 class ZTDiscountLimit;
@@ -56,9 +58,9 @@ public:
     static QString orderTxtHeadPhotoProduct();
 
     virtual bool isValid() const;
-    // The price of so many pieces under the key, bound being the amount that the price models
-    // may not undercut.
-    virtual ZTMoney price(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBound) const;
+    // The price of so many pieces under the key, for goods worth theBillingSum; priceFor without
+    // a bill and a basket.
+    virtual ZTMoney price(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum) const;
     // The lowest price over the three order sources.
     virtual ZTMoney minPrice(bool theAllLimits) const;
     virtual ZTPriceBundle minPrices(bool theAllLimits) const;
@@ -107,6 +109,15 @@ public:
     ZTMoney priceAtBound(const ZTAPMPriceKey& theKey, const ZTDiscountLimit& theLimit) const;
     ZTPriceBundle pricesAtBound(const ZTAPMPriceKey& theKey, const ZTDiscountLimit& theLimit) const;
     bool hasDiscountModel(const ZTOrderSource& theOrderSource, const ZTDiscountModel& theModel) const;
+    // The price models of the article's price info; see there.
+    bool isOrderableViaPOS() const;
+    bool isOrderableThisWay(const ZTOrderSource& theOrderSource) const;
+    ZTMoney unitTransferPriceFor(const ZTAPMPriceKey& theKey, const ZTAPMOrderStatistic* theStatistic) const;
+    ZTMoney transferPriceFor(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
+                             const ZTAPMOrderStatistic* theStatistic) const;
+    // theBill is the bill under construction (a bill is its position list), or null.
+    ZTMoney priceFor(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
+                     ZTAPMBillPositionList* theBill, const ZTAPMOrderStatistic* theStatistic) const;
 
     bool shippingTimesEnabled() const;
     ZTAPMDeliveryTime shippingTime(const ZTDeliveryType& theDeliveryType,

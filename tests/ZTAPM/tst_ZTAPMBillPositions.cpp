@@ -132,6 +132,14 @@ private Q_SLOTS:
         QCOMPARE(twice.countItems(a, 1), 0);
         QVERIFY(twice != basket);
         QCOMPARE(twice.products().size(), 2);
+
+        // One piece each at its price, times the number; an unpriceable product adds its -1.
+        ZTAPMOrderStatistic goods;
+        goods.add(a, 2);
+        goods.add(b, 3);
+        QCOMPARE(goods.totalPrice(ZTAPMPriceKey(ZTOrderSource::onlineMailOrder())), ZTMoney(165));
+        goods.add(product(90013), 1);
+        QCOMPARE(goods.totalPrice(ZTAPMPriceKey(ZTOrderSource::onlineMailOrder())), ZTMoney(164));
     }
 
     // An add-on takes over the highest level its linked articles have reached in the bill.
