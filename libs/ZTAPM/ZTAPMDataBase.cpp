@@ -27,7 +27,38 @@
 #include <QFileInfo>
 #include <QRecursiveMutex>
 
+#if defined(__SANITIZE_THREAD__)
+#include <sanitizer/tsan_interface.h>
+#endif
+
 namespace {
+
+// Holds the data base's mutex for a scope. Qt's mutexes live in a library that ThreadSanitizer
+// does not see into, so under it the hand-over is announced explicitly; otherwise this is a
+// plain QMutexLocker.
+class DataBaseLocker
+{
+public:
+    explicit DataBaseLocker(QRecursiveMutex* theMutex) : myMutex(theMutex)
+    {
+        myMutex->lock();
+#if defined(__SANITIZE_THREAD__)
+        __tsan_acquire(myMutex);
+#endif
+    }
+    ~DataBaseLocker()
+    {
+#if defined(__SANITIZE_THREAD__)
+        __tsan_release(myMutex);
+#endif
+        myMutex->unlock();
+    }
+    Q_DISABLE_COPY(DataBaseLocker)
+
+private:
+    QRecursiveMutex* const myMutex;
+};
+
 // A program variant that works without a catalogue of its own.
 constexpr int programIdWithoutCatalogue = 8;
 // Calendars and the two kinds of photo book: what a new document starts as.
@@ -86,7 +117,7 @@ QList<ZTProductRegistryAbstract*> ZTAPMDataBase::registries() const
 
 ZTProductAbstract* ZTAPMDataBase::productAbstract(const ZTArticleId& theId) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     for (const ZTProductRegistryAbstract* registry : std::initializer_list<const ZTProductRegistryAbstract*>{
              myProducts, myExpressFees, myTransferFees, myShipmentMethodFees, myPaymentFees}) {
         if (ZTProductAbstract* product = registry->productWithArticleID(theId))
@@ -99,7 +130,7 @@ ZTProductAbstract* ZTAPMDataBase::productAbstract(const ZTProductType& theType) 
 {
     if (!theType.isValid())
         return nullptr;
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->findProductAbstract(theType);
 }
 
@@ -111,7 +142,7 @@ ZTProductAbstract* ZTAPMDataBase::firstValidProductAbstract() const
 
 bool ZTAPMDataBase::existsAnyAddOn(const ZTArticleClass& theClass) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->existsAnyAddOn(theClass);
 }
 
@@ -122,7 +153,7 @@ ZTProductList ZTAPMDataBase::addOnsForClass(const ZTArticleClass& theClass) cons
 
 ZTDiscountLimitSet ZTAPMDataBase::discountLimits(const ZTDiscountLimitListKey& theKey) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->discountLimits(theKey);
 }
 
@@ -130,19 +161,19 @@ bool ZTAPMDataBase::containsDiscountModel(const ZTShippingGroupId& theShippingGr
                                           const ZTAPMPriceKey& thePriceKey,
                                           const ZTDiscountModel& theModel) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->containsDiscountModel(theShippingGroupId, thePriceKey, theModel);
 }
 
 ZTProductList ZTAPMDataBase::productsForArticleClass(const ZTArticleClass& theClass) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->productsForArticleClass(theClass);
 }
 
 ZTProductList ZTAPMDataBase::productsForShippingGroup(const ZTShippingGroupId& theShippingGroupId) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->productsForShippingGroup(theShippingGroupId, true);
 }
 
@@ -150,28 +181,28 @@ bool ZTAPMDataBase::shippingTimesEnabled(const ZTShippingGroupId& theShippingGro
                                          const ZTOrderSource& theOrderSource,
                                          const ZTExpressType& theExpressType) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->shippingTimesEnabled(theShippingGroupId, theOrderSource, theExpressType);
 }
 
 bool ZTAPMDataBase::shippingGroupHasUnitTransferPrice(const ZTShippingGroupId& theShippingGroupId,
                                                       const ZTAPMPriceKey& thePriceKey) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->shippingGroupHasUnitTransferPrice(theShippingGroupId, thePriceKey);
 }
 
 ZTProductList ZTAPMDataBase::findDependentProducts(const ZTArticleId& theId,
                                                    const ZTArticleClass& theClass) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->findDependentProducts(theId, theClass);
 }
 
 ZTProductAbstract* ZTAPMDataBase::findDependentProduct(const ZTArticleId& theId,
                                                        const ZTPriceClass& thePriceClass) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->findDependentProduct(theId, thePriceClass);
 }
 
@@ -198,88 +229,88 @@ ZTEmptyMeansAllSet<ZTProductAbstract*>
 ZTAPMDataBase::findProducts(const ZTEmptyMeansAllSet<ZTArticleClass>& theClasses,
                             const ZTEmptyMeansAllSet<ZTCoverType>& theCovers) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->findProducts(theClasses, theCovers);
 }
 
 ZTProductAbstract* ZTAPMDataBase::mostEquivalentProduct(ZTProductAbstract* theProduct,
                                                         const ZTArticleClass& theClass) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->mostEquivalentProduct(theProduct, theClass);
 }
 
 bool ZTAPMDataBase::existsDependentProduct(const ZTArticleId& theId, const ZTArticleClass& theClass) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myProducts->existsDependentProduct(theId, theClass);
 }
 
 ZTProductAbstract* ZTAPMDataBase::transferProduct(const ZTShippingGroupId& theShippingGroupId) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myTransferFees->transferProduct(theShippingGroupId);
 }
 
 ZTProductAbstract* ZTAPMDataBase::paymentFeeProduct(const ZTPaymentId& thePaymentId) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myPaymentFees->paymentFeeProduct(thePaymentId);
 }
 
 bool ZTAPMDataBase::expressFeeProductsExist() const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myExpressFees->expressFeeProductsExist();
 }
 
 QList<const ZTProductAbstract*>
 ZTAPMDataBase::expressFeeProducts(const ZTShippingGroupId& theShippingGroupId) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myExpressFees->expressFeeProducts(theShippingGroupId);
 }
 
 ZTProductAbstract* ZTAPMDataBase::expressFeeProduct(const ZTExpressKey& theKey) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myExpressFees->expressFeeProduct(theKey);
 }
 
 ZTExpressType ZTAPMDataBase::expressType(const ZTArticleId& theId) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myExpressFees->expressType(theId);
 }
 
 ZTProductAbstract* ZTAPMDataBase::shipmentMethodFeeProduct(int theShipmentMethodId) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myShipmentMethodFees->shipmentMethodFeeProduct(theShipmentMethodId);
 }
 
 int ZTAPMDataBase::idOfShipmentMethodFeeProduct(int theShipmentMethodId) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myShipmentMethodFees->idOfShipmentMethodFeeProduct(theShipmentMethodId);
 }
 
 bool ZTAPMDataBase::productIsExpressable(ZTProductAbstract* theProduct) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return theProduct && theProduct->isExpressable() &&
            myExpressFees->hasAnyExpressFeeProduct(theProduct->shippingGroupId());
 }
 
 bool ZTAPMDataBase::productIsExpressable(const ZTArticleId& theId) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return productIsExpressable(productAbstract(theId));
 }
 
 bool ZTAPMDataBase::shippingGroupIsExpressable(const ZTShippingGroupId& theShippingGroupId) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     for (ZTProductAbstract* product : myProducts->productList(theShippingGroupId)) {
         if (productIsExpressable(product))
             return true;
@@ -290,7 +321,7 @@ bool ZTAPMDataBase::shippingGroupIsExpressable(const ZTShippingGroupId& theShipp
 ZTExpressTypeList ZTAPMDataBase::supportedExpressTypes(const ZTShippingGroupId& theShippingGroupId,
                                                        const ZTAPMPriceKey& thePriceKey) const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     ZTExpressTypeList result;
     for (const ZTExpressType& type : myExpressFees->findExpressTypes(theShippingGroupId, thePriceKey)) {
         if (shippingTimesEnabled(theShippingGroupId, thePriceKey.orderSource(), type))
@@ -314,7 +345,7 @@ void ZTAPMDataBase::loadAllProductsFrom(const QFileInfo& theFile)
 void ZTAPMDataBase::updateProducts(const QDomNode& theRoot)
 {
     {
-        QMutexLocker locker(myLock);
+        DataBaseLocker locker(myLock);
         if (theRoot.isNull())
             return;
         for (ZTProductRegistryAbstract* registry : registries())
@@ -339,6 +370,6 @@ bool ZTAPMDataBase::softwareShouldBeRestarted() const
 
 int ZTAPMDataBase::productUpdateCount() const
 {
-    QMutexLocker locker(myLock);
+    DataBaseLocker locker(myLock);
     return myUpdateCount;
 }
