@@ -17,8 +17,8 @@
 // Catalogue questions from several threads while the main thread switches key accounts back and
 // forth, so that every registry is read again under the readers' feet. Meant to be run under
 // ThreadSanitizer as well as plainly:
-//   cmake -S . -B build-tsan -G Ninja -DCMAKE_CXX_FLAGS=-fsanitize=thread \
-//         -DCMAKE_EXE_LINKER_FLAGS=-fsanitize=thread -DCMAKE_SHARED_LINKER_FLAGS=-fsanitize=thread \
+//   cmake -S . -B build-tsan -G Ninja -DCMAKE_CXX_FLAGS=-fsanitize=thread
+//         -DCMAKE_EXE_LINKER_FLAGS=-fsanitize=thread -DCMAKE_SHARED_LINKER_FLAGS=-fsanitize=thread
 //         -DZT_BUILD_BENCHMARKS=OFF
 //   cmake --build build-tsan --target tst_ZTAPMDataBaseThreads
 //   TSAN_OPTIONS=suppressions=tests/ZTAPM/tsan.supp build-tsan/bin/tst_ZTAPMDataBaseThreads
