@@ -110,6 +110,18 @@ private Q_SLOTS:
         QCOMPARE(ZTExpressType(ZTExpressTypeExpress).humanReadableName(ZTShippingGroupId(77)), QString());
         QCOMPARE(ZTExpressType(ZTExpressTypeStandard).humanReadableName(ZTShippingGroupId(77)),
                  QStringLiteral("Standardversand"));
+        // Express is offered by mail only: the fee has no price at the point of sale.
+        QCOMPARE(dataBase()->supportedExpressTypes(ZTShippingGroupId(1),
+                                                   ZTAPMPriceKey(ZTOrderSource::onlineMailOrder())),
+                 ZTExpressTypeList({ZTExpressTypeExpress}));
+        QVERIFY(dataBase()
+                    ->supportedExpressTypes(ZTShippingGroupId(1),
+                                            ZTAPMPriceKey(ZTOrderSource::onlinePointOfSale()))
+                    .isEmpty());
+        QVERIFY(dataBase()
+                    ->supportedExpressTypes(ZTShippingGroupId(77),
+                                            ZTAPMPriceKey(ZTOrderSource::onlineMailOrder()))
+                    .isEmpty());
         QVERIFY(dataBase()->shippingTimesEnabled(ZTShippingGroupId(1), ZTOrderSource::onlineMailOrder(),
                                                  ZTExpressTypeExpress));
 
