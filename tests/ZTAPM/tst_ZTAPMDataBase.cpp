@@ -5,6 +5,7 @@
 #include "ZTProductRegistryAbstract.h"
 #include "ZTProgramConfig.h"
 
+#include "ZTAPMObjects.h"
 #include "ZTAPMPriceKey.h"
 #include "ZTArticleClassManager.h"
 #include "ZTArticleId.h"
@@ -178,6 +179,34 @@ private Q_SLOTS:
         QCOMPARE(product(1012), booklet);
         QVERIFY(!booklet->isDeprecated());
         QVERIFY(!dataBase()->softwareShouldBeRestarted());
+    }
+
+    void ladderCacheEmptiesAfterANewPriceList()
+    {
+        const ZTDiscountLimitListKey key(ZTShippingGroupId(16),
+                                         ZTAPMPriceKey(ZTOrderSource::onlineMailOrder()), true);
+        ZTDiscountLimitCache* cache = ZTSingleton<ZTDiscountLimitCache>::instance();
+        const ZTDiscountLimitList demoLadder = cache->discountLimits(key);
+        auto startsAtSeven = [](const ZTDiscountLimitList& theLadder) {
+            return std::any_of(theLadder.cbegin(), theLadder.cend(),
+                               [](const ZTDiscountLimit& theLimit) { return theLimit.lowerLimit() == 7; });
+        };
+        QVERIFY(!startsAtSeven(demoLadder));
+
+        // New prices and products without a signal of the key account, as a downloader would
+        // bring them; the reading of the products signals the new price list.
+        auto useKeyAccount = [dataBase = dataBase()](const QString& theDirectory) {
+            ZTSingleton<ZTProgramConfig>::instance()->setKeyAccountDirectory(theDirectory);
+            ZTSingleton<ZTAPMObjects>::instance()->updateKeyAccountData();
+            dataBase->loadAllProducts();
+        };
+        useKeyAccount(QStringLiteral(ZT_TEST_DATA_DIR "/ladder"));
+        // The cache belongs to this thread and empties only when the queued call arrives.
+        QCOMPARE(cache->discountLimits(key), demoLadder);
+        QTRY_VERIFY(startsAtSeven(cache->discountLimits(key)));
+
+        useKeyAccount(QStringLiteral(ZT_DEMO_DATA_DIR));
+        QTRY_COMPARE(cache->discountLimits(key), demoLadder);
     }
 
     void nullNodeChangesNothing()
