@@ -166,6 +166,9 @@ private Q_SLOTS:
         QCOMPARE(product(1001), book);
         QVERIFY(booklet->isDeprecated());
         QVERIFY(!book->isDeprecated());
+        // The booklet alone: data/demo-update must stay the demo without it.
+        const ZTProductList articles = dataBase()->products()->productList();
+        QCOMPARE(articles.withoutDeprecatedProducts().size(), articles.size() - 1);
         QVERIFY(booklet->name().endsWith(QStringLiteral(" (nicht mehr lieferbar)")));
         QVERIFY(!dataBase()->productsForShippingGroup(ZTShippingGroupId(1)).contains(booklet));
         QCOMPARE(dataBase()->products()->productCount(), 60);
