@@ -56,3 +56,8 @@ size_t qHash(const ZTExpressKey& theKey, size_t seed) noexcept
 {
     return size_t(theKey.hashValue()) ^ seed;
 }
+
+QString ZTExpressKey::humanReadableName() const
+{
+    return myExpressType.humanReadableName(myShippingGroupId);
+}

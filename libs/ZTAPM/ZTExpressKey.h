@@ -19,6 +19,8 @@ public:
     ZTShippingGroupId shippingGroupId() const;
     ZTExpressType expressType() const;
     bool hasShippingGroup(const ZTShippingGroupId& theShippingGroupId) const;
+    // The express type's name for the key's group.
+    QString humanReadableName() const;
 
     // Stable across processes and platforms (no seed), so it may be kept outside the process.
     quint64 hashValue() const;

@@ -1,5 +1,7 @@
 #include "ZTExpressTypeList.h"
 
+#include "ZTAPMDataBase.h"
+
 #include <algorithm>
 
 ZTExpressTypeList::ZTExpressTypeList() = default;
@@ -60,4 +62,10 @@ ZTExpressTypeList ZTExpressTypeList::intersection(const ZTExpressTypeList& other
 QSet<ZTExpressType> ZTExpressTypeList::asSet() const
 {
     return QSet<ZTExpressType>(cbegin(), cend());
+}
+
+ZTExpressTypeList ZTExpressTypeList::supportedExpressTypes(const ZTShippingGroupId& theShippingGroupId,
+                                                           const ZTAPMPriceKey& thePriceKey)
+{
+    return ZTSingleton<ZTAPMDataBase>::instance()->supportedExpressTypes(theShippingGroupId, thePriceKey);
 }

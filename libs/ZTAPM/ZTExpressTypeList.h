@@ -9,6 +9,9 @@
 
 #include <initializer_list>
 
+class ZTAPMPriceKey;
+class ZTShippingGroupId;
+
 // A list of express types, as a shipping group offers them. Order and duplicates are kept; the
 // set operations below say where they matter.
 class ZTAPM_EXPORT ZTExpressTypeList : public QList<ZTExpressType>
@@ -27,6 +30,9 @@ public:
     // What counts as an express option: express alone. Standard shipping is always possible and
     // therefore not asked for.
     static ZTExpressTypeList allExpressTypes();
+    // What the catalogue offers for the group under the key; see ZTAPMDataBase.
+    static ZTExpressTypeList supportedExpressTypes(const ZTShippingGroupId& theShippingGroupId,
+                                                   const ZTAPMPriceKey& thePriceKey);
 
     ZTExpressTypeList sorted() const;
     // Drops every entry (all occurrences) that other contains; returns the result.

@@ -109,11 +109,16 @@ private Q_SLOTS:
         QCOMPARE(ZTExpressType(ZTExpressTypeExpress).humanReadableName(ZTShippingGroupId(1)),
                  product(9101)->name());
         QCOMPARE(ZTExpressType(ZTExpressTypeExpress).humanReadableName(ZTShippingGroupId(77)), QString());
+        QCOMPARE(ZTExpressKey(ZTShippingGroupId(1), ZTExpressTypeExpress).humanReadableName(),
+                 product(9101)->name());
         QCOMPARE(ZTExpressType(ZTExpressTypeStandard).humanReadableName(ZTShippingGroupId(77)),
                  QStringLiteral("Standardversand"));
         // Express is offered by mail only: the fee has no price at the point of sale.
         QCOMPARE(dataBase()->supportedExpressTypes(ZTShippingGroupId(1),
                                                    ZTAPMPriceKey(ZTOrderSource::onlineMailOrder())),
+                 ZTExpressTypeList({ZTExpressTypeExpress}));
+        QCOMPARE(ZTExpressTypeList::supportedExpressTypes(ZTShippingGroupId(1),
+                                                          ZTAPMPriceKey(ZTOrderSource::onlineMailOrder())),
                  ZTExpressTypeList({ZTExpressTypeExpress}));
         QVERIFY(dataBase()
                     ->supportedExpressTypes(ZTShippingGroupId(1),
