@@ -134,3 +134,13 @@ int ZTProductRegistryExpressFees::productCount() const
         result += types ? int(types->size()) : 0;
     return result;
 }
+
+ZTProductList ZTProductRegistryExpressFees::productList() const
+{
+    ZTProductList result;
+    for (const ExpressTypeMap* types : myProducts) {
+        if (types)
+            result += types->values();
+    }
+    return result;
+}

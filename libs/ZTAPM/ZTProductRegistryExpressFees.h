@@ -3,6 +3,7 @@
 
 #include "ZTExpressType.h"
 #include "ZTExpressTypeList.h"
+#include "ZTProductList.h"
 #include "ZTProductRegistryAbstract.h"
 #include "ZTShippingGroupId.h"
 
@@ -27,6 +28,8 @@ public:
     void setProductsDeprecated() override;
     QList<QString> xmlKeyWords() const override;
     int productCount() const;
+    // Every fee product of this registry, in key order.
+    ZTProductList productList() const;
 
     ExpressTypeMap* expressTypeMap(const ZTShippingGroupId& theShippingGroupId) const;
     ExpressTypeMap* safeExpressTypeMap(const ZTShippingGroupId& theShippingGroupId);

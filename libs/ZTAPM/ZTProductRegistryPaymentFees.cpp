@@ -42,3 +42,8 @@ int ZTProductRegistryPaymentFees::productCount() const
 {
     return int(myProducts.size());
 }
+
+ZTProductList ZTProductRegistryPaymentFees::productList() const
+{
+    return ZTProductList(myProducts.values());
+}

@@ -2,6 +2,7 @@
 #define ZTPRODUCTREGISTRYPAYMENTFEES_H
 
 #include "ZTPaymentId.h"
+#include "ZTProductList.h"
 #include "ZTProductRegistryAbstract.h"
 
 #include <QMap>
@@ -19,6 +20,8 @@ public:
     void setProductsDeprecated() override;
     QList<QString> xmlKeyWords() const override;
     int productCount() const;
+    // Every fee product of this registry, in key order.
+    ZTProductList productList() const;
 
     ZTProductAbstract* paymentFeeProduct(const ZTPaymentId& thePaymentId) const;
 

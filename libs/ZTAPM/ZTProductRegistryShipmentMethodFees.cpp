@@ -51,3 +51,8 @@ int ZTProductRegistryShipmentMethodFees::productCount() const
 {
     return int(myProducts.size());
 }
+
+ZTProductList ZTProductRegistryShipmentMethodFees::productList() const
+{
+    return ZTProductList(myProducts.values());
+}

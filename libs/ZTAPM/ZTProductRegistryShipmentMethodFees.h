@@ -1,6 +1,7 @@
 #ifndef ZTPRODUCTREGISTRYSHIPMENTMETHODFEES_H
 #define ZTPRODUCTREGISTRYSHIPMENTMETHODFEES_H
 
+#include "ZTProductList.h"
 #include "ZTProductRegistryAbstract.h"
 
 #include <QMap>
@@ -19,6 +20,8 @@ public:
     void setProductsDeprecated() override;
     QList<QString> xmlKeyWords() const override;
     int productCount() const;
+    // Every fee product of this registry, in key order.
+    ZTProductList productList() const;
 
     ZTProductAbstract* shipmentMethodFeeProduct(int theShipmentMethodId) const;
     // The fee's article id, or 0 when the method costs nothing.

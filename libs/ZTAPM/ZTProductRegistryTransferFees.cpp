@@ -40,3 +40,8 @@ int ZTProductRegistryTransferFees::productCount() const
 {
     return int(myProductsById.size());
 }
+
+ZTProductList ZTProductRegistryTransferFees::productList() const
+{
+    return ZTProductList(myProducts.values());
+}

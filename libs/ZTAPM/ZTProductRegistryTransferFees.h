@@ -2,6 +2,7 @@
 #define ZTPRODUCTREGISTRYTRANSFERFEES_H
 
 #include "ZTArticleId.h"
+#include "ZTProductList.h"
 #include "ZTProductRegistryAbstract.h"
 #include "ZTShippingGroupId.h"
 
@@ -24,6 +25,8 @@ public:
     QList<QString> xmlKeyWords() const override;
     // Every transfer read, also those that a later one of the same group replaced.
     int productCount() const;
+    // Every fee product of this registry, in key order.
+    ZTProductList productList() const;
 
     ZTProductAbstract* transferProduct(const ZTShippingGroupId& theShippingGroupId) const;
 

@@ -1,0 +1,183 @@
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTest>
+
+// The ztapm program as a person or a script runs it: exit statuses, messages and the JSON it prints.
+class TestZtapm : public QObject
+{
+    Q_OBJECT
+
+    struct Run
+    {
+        int exitCode = -1;
+        QByteArray out;
+        QByteArray err;
+        QJsonObject json() const { return QJsonDocument::fromJson(out).object(); }
+    };
+
+    static Run ztapm(const QStringList& theArguments)
+    {
+        QProcess process;
+        process.start(QStringLiteral(ZTAPM_PROGRAM), theArguments);
+        Run run;
+        if (!process.waitForFinished(60000))
+            return run;
+        run.exitCode = process.exitCode();
+        run.out = process.readAllStandardOutput();
+        run.err = process.readAllStandardError();
+        return run;
+    }
+
+    static QStringList onModels(QStringList theArguments)
+    {
+        return theArguments << QStringLiteral("--data") << QStringLiteral(ZT_TEST_DATA_DIR "/models")
+                            << QStringLiteral("--json");
+    }
+
+private Q_SLOTS:
+    // The worked price examples, one per line of the table the price model tests use too.
+    void price_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("amount");
+
+        QFile file(QStringLiteral(ZT_TEST_DATA_DIR "/models/pricefor.txt"));
+        QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
+        const QHash<QString, QString> sources{{QStringLiteral("mail"), QStringLiteral("online-mail")},
+                                              {QStringLiteral("pos"), QStringLiteral("FC")},
+                                              {QStringLiteral("cd"), QStringLiteral("cd-pos")}};
+        while (!file.atEnd()) {
+            const QString line = QString::fromUtf8(file.readLine()).trimmed();
+            if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+                continue;
+            const QStringList columns = line.split(QLatin1Char('|'));
+            const QStringList request = columns.at(1).simplified().split(QLatin1Char(' '));
+            QStringList arguments{QStringLiteral("price"),
+                                  request.at(0),
+                                  request.at(3),
+                                  QStringLiteral("--source"),
+                                  sources.value(request.at(1)),
+                                  QStringLiteral("--sum"),
+                                  request.at(4)};
+            if (request.at(2) == QLatin1String("128"))
+                arguments << QStringLiteral("--model") << QStringLiteral("x");
+            QTest::newRow(qPrintable(columns.at(0).trimmed()))
+                << arguments << columns.at(2).trimmed().toInt();
+        }
+    }
+    void price()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, amount);
+        const Run run = ztapm(onModels(arguments));
+        QCOMPARE(run.exitCode, 0);
+        const QJsonObject json = run.json();
+        QCOMPARE(json[QStringLiteral("amount")].toInt(), amount);
+        QCOMPARE(json[QStringLiteral("article")].toInt(), arguments.at(1).toInt());
+        QCOMPARE(json[QStringLiteral("count")].toInt(), arguments.at(2).toInt());
+
+        // The chosen model is one of the candidates and gives the amount, unless a basket-wide
+        // transfer or nothing at all priced the article.
+        const QString model = json[QStringLiteral("model")].toString();
+        if (model.isEmpty() || model == QLatin1String("basket"))
+            return;
+        bool found = false;
+        for (const QJsonValue& candidate : json[QStringLiteral("candidates")].toArray()) {
+            if (candidate[QStringLiteral("model")].toString() == model) {
+                found = true;
+                QCOMPARE(candidate[QStringLiteral("amount")].toInt(), amount);
+            }
+        }
+        QVERIFY2(found, run.out.constData());
+    }
+
+    void priceExplainsEveryModel()
+    {
+        // Two pieces of the flat-price article: "f" wins over the bulk total.
+        const QJsonObject json =
+            ztapm(onModels({QStringLiteral("price"), QStringLiteral("90002"), QStringLiteral("2")})).json();
+        QCOMPARE(json[QStringLiteral("source")].toString(), QStringLiteral("FM"));
+        QCOMPARE(json[QStringLiteral("model")].toString(), QStringLiteral("f"));
+        QCOMPARE(json[QStringLiteral("candidates")].toArray(),
+                 QJsonArray({QJsonObject{{QStringLiteral("model"), QStringLiteral("b")},
+                                         {QStringLiteral("amount"), 1000}},
+                             QJsonObject{{QStringLiteral("model"), QStringLiteral("f")},
+                                         {QStringLiteral("amount"), 100}}}));
+    }
+
+    void errors_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("message");
+
+        QTest::newRow("unknown command")
+            << QStringList{QStringLiteral("bill")} << 2 << "unknown command 'bill'";
+        QTest::newRow("missing count")
+            << QStringList{QStringLiteral("price"), QStringLiteral("90001")} << 2 << "usage: price ID COUNT";
+        QTest::newRow("bad count") << QStringList{QStringLiteral("price"), QStringLiteral("90001"),
+                                                  QStringLiteral("2.5")}
+                                   << 2 << "no number of pieces";
+        QTest::newRow("bad source") << QStringList{QStringLiteral("price"), QStringLiteral("90001"),
+                                                   QStringLiteral("1"), QStringLiteral("--source"),
+                                                   QStringLiteral("cd-mail")}
+                                    << 2 << "unknown order source 'cd-mail'";
+        QTest::newRow("model chosen by the engine")
+            << QStringList{QStringLiteral("price"), QStringLiteral("90001"), QStringLiteral("1"),
+                           QStringLiteral("--model"), QStringLiteral("b")}
+            << 2 << "--model takes only x";
+        QTest::newRow("option of another command")
+            << QStringList{QStringLiteral("catalogue"), QStringLiteral("--sum"), QStringLiteral("5")} << 2
+            << "go with the command price";
+        QTest::newRow("unknown article") << QStringList{QStringLiteral("article"), QStringLiteral("4711")}
+                                         << 3 << "article 4711 does not exist";
+        QTest::newRow("missing directory")
+            << QStringList{QStringLiteral("catalogue"), QStringLiteral("--data"),
+                           QStringLiteral("/nonexistent/key-account")}
+            << 3 << "data directory '/nonexistent/key-account' does not exist";
+    }
+    void errors()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, exitCode);
+        QFETCH(QString, message);
+        if (!arguments.contains(QStringLiteral("--data")))
+            arguments << QStringLiteral("--data") << QStringLiteral(ZT_TEST_DATA_DIR "/models");
+        const Run run = ztapm(arguments);
+        QCOMPARE(run.exitCode, exitCode);
+        QVERIFY2(run.err.startsWith("ztapm: "), run.err.constData());
+        QVERIFY2(QString::fromUtf8(run.err).contains(message), run.err.constData());
+        QVERIFY(run.out.isEmpty());
+    }
+
+    void catalogueAndArticle()
+    {
+        const Run catalogue = ztapm(onModels({QStringLiteral("catalogue")}));
+        QCOMPARE(catalogue.exitCode, 0);
+        QVERIFY2(catalogue.err.isEmpty(), catalogue.err.constData());
+        const QJsonArray products = catalogue.json()[QStringLiteral("products")].toArray();
+        QCOMPARE(products.size(), 14);
+        // By id, fees included; the bulk article's lowest mail-order price is its first step.
+        QCOMPARE(products.first()[QStringLiteral("id")].toInt(), 90001);
+        QCOMPARE(products.first()[QStringLiteral("lowestPrices")][QStringLiteral("FM")].toInt(), 299);
+        QVERIFY(products.first()[QStringLiteral("lowestPrices")][QStringLiteral("CC")].isNull());
+        QCOMPARE(products.last()[QStringLiteral("id")].toInt(), 90023);
+
+        const QJsonObject article =
+            ztapm(onModels({QStringLiteral("article"), QStringLiteral("90001")})).json();
+        QCOMPARE(article[QStringLiteral("shippingGroup")].toInt(), 16);
+        const QJsonArray rows = article[QStringLiteral("prices")][0][QStringLiteral("rows")].toArray();
+        QCOMPARE(article[QStringLiteral("prices")][0][QStringLiteral("source")].toString(),
+                 QStringLiteral("FM"));
+        QCOMPARE(rows.size(), 3);
+        QCOMPARE(rows.at(1)[QStringLiteral("from")].toInt(), 10);
+        QCOMPARE(rows.at(1)[QStringLiteral("price")].toInt(), 249);
+        QCOMPARE(rows.at(2)[QStringLiteral("to")].toInt(), -1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestZtapm)
+#include "tst_ztapm.moc"
