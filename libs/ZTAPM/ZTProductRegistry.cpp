@@ -37,7 +37,10 @@ ZTProductRegistry::ZTProductRegistry()
 }
 
 // Frees the tables only: others hold raw pointers to the products.
-ZTProductRegistry::~ZTProductRegistry() = default;
+ZTProductRegistry::~ZTProductRegistry()
+{
+    keepAlive(myAllProducts.values());
+}
 
 ZTProductAbstract* ZTProductRegistry::productWithArticleID(const ZTArticleId& theId) const
 {

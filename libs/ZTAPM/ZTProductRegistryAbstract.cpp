@@ -7,6 +7,7 @@
 
 #include <QDebug>
 #include <QDomElement>
+#include <QMutex>
 
 ZTProductRegistryAbstract::ZTProductRegistryAbstract() = default;
 ZTProductRegistryAbstract::~ZTProductRegistryAbstract() = default;
@@ -43,4 +44,13 @@ ZTProductAbstract* ZTProductRegistryAbstract::buildAbstractProduct(const QDomEle
 ZTShippingGroupId ZTProductRegistryAbstract::readShippingGroupId(const QDomElement& theElement) const
 {
     return ZTShippingGroupId(theElement, QStringLiteral("group"));
+}
+
+void ZTProductRegistryAbstract::keepAlive(const QList<ZTProductAbstract*>& theProducts)
+{
+    // Registries outside the data base (tests, tools) have no common lock, hence one here.
+    static QMutex theMutex;
+    static auto* theKeptProducts = new QList<ZTProductAbstract*>;
+    QMutexLocker locker(&theMutex);
+    *theKeptProducts += theProducts;
 }

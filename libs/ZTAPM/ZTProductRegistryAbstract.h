@@ -33,6 +33,12 @@ public:
     ZTProductAbstract* buildAbstractProduct(const QDomElement& theElement);
     ZTShippingGroupId readShippingGroupId(const QDomElement& theElement) const;
 
+protected:
+    // Products are never freed: bills and baskets may still point at one that a registry lets go
+    // of, on a new reading or when the registry itself goes. Such products are handed here and
+    // stay allocated, and reachable, to the end of the process.
+    static void keepAlive(const QList<ZTProductAbstract*>& theProducts);
+
 private:
     Q_DISABLE_COPY(ZTProductRegistryAbstract)
 };

@@ -31,6 +31,8 @@ ZTProductAbstract* ZTProductRegistryExpressFees::productWithArticleID(const ZTAr
 void ZTProductRegistryExpressFees::registerProduct(const QDomElement& theElement,
                                                    ZTProductAbstract* theProduct)
 {
+    // A fee that a later entry or reading replaces may still be on a bill.
+    keepAlive({theProduct});
     const ZTExpressType type(theElement.attribute(QStringLiteral("express_id")));
     if (type.isNull())
         return;

@@ -20,6 +20,8 @@ ZTProductAbstract* ZTProductRegistryPaymentFees::productWithArticleID(const ZTAr
 void ZTProductRegistryPaymentFees::registerProduct(const QDomElement& theElement,
                                                    ZTProductAbstract* theProduct)
 {
+    // A fee that a later entry or reading replaces may still be on a bill.
+    keepAlive({theProduct});
     myProducts.insert(ZTPaymentId(theElement.attribute(QStringLiteral("pay_method_id"))), theProduct);
 }
 

@@ -21,6 +21,8 @@ ZTProductAbstract* ZTProductRegistryShipmentMethodFees::productWithArticleID(con
 void ZTProductRegistryShipmentMethodFees::registerProduct(const QDomElement& theElement,
                                                           ZTProductAbstract* theProduct)
 {
+    // A fee that a later entry or reading replaces may still be on a bill.
+    keepAlive({theProduct});
     myProducts.insert(ZTXMLParser::intAttribute(theElement, QStringLiteral("shipment_method_id"), -1),
                       theProduct);
 }

@@ -15,6 +15,8 @@ ZTProductAbstract* ZTProductRegistryTransferFees::productWithArticleID(const ZTA
 void ZTProductRegistryTransferFees::registerProduct(const QDomElement& theElement,
                                                     ZTProductAbstract* theProduct)
 {
+    // A fee that a later entry or reading replaces may still be on a bill.
+    keepAlive({theProduct});
     myProducts.insert(readShippingGroupId(theElement), theProduct);
     myProductsById.insert(theProduct->articleId(), theProduct);
 }

@@ -62,7 +62,8 @@ private Q_SLOTS:
         // A photo package of 30 photos costs its one unit price.
         ZTAPMBillPosition* package = position(other, 1, 30, 1120, ZTDiscountModelFotoPackage);
         QCOMPARE(package->positionPrice(), ZTMoney(1120));
-        QCOMPARE(position(nullptr, 3, 1, 249)->positionPrice(), ZTMoney(747));
+        QCOMPARE(std::unique_ptr<ZTAPMBillPosition>(position(nullptr, 3, 1, 249))->positionPrice(),
+                 ZTMoney(747));
 
         // An unpriceable entry of a product hides any later entry of it.
         list << new ZTAPMBillPositionInvalid(print) << position(print, 2, 1, 39) << package;

@@ -62,6 +62,8 @@ class TestProductRegistry : public QObject
     ZTProductAbstract* product(int theId) const { return products->productWithArticleID(ZTArticleId(theId)); }
 
 private Q_SLOTS:
+    void cleanupTestCase() { qDeleteAll(all()); }
+
     void initTestCase()
     {
         ZTSingleton<ZTKeyAccount>::instance()->switchTo(QStringLiteral(ZT_TEST_DATA_DIR "/registry"));
