@@ -7,13 +7,15 @@
 #include "ZTTemplateExport.h"
 #include "ZTXMLLoader.h"
 
-#include <QDomDocument>
 #include <QDomElement>
 #include <QFileInfo>
 #include <QHash>
 #include <QList>
 #include <QReadWriteLock>
 #include <QString>
+#include <QStringList>
+
+#include <vector>
 
 // One key-account document read into a hash from article id to a value of type T, at the first
 // question and again on request. Values leave the store by copy only, so a reload may replace
@@ -60,27 +62,60 @@ public:
     // Makes a value of one element and stores it through insert(); the result is not looked at.
     virtual bool parseElement(const QDomElement& theElement) const = 0;
 
-    // Reads the document again. A missing file leaves everything as it was.
+    // Reads the document again. A missing or broken file leaves everything as it was.
     void load() const
     {
         // Node names are the same for every store of one value type.
         static const QList<QString> nodeNames = articleNodes();
+        static const QStringList sectionNames = [] {
+            QStringList names;
+            for (const QString& nodeName : nodeNames)
+                names.append(nodeName + QLatin1Char('s'));
+            return names;
+        }();
 
         const QFileInfo file = ZTResourceFile(dataType()).fileInfo(false, QString());
         if (!file.exists())
             return;
 
         QWriteLocker locker(&myLock);
-        myData.clear();
+        // The elements go straight into a fresh hash; the old one returns if the file breaks.
+        QHash<ZTArticleId, T> previous;
+        previous.swap(myData);
         myData.reserve(reservedEntries);
-        // The document lives only as long as this scope: a full catalogue is tens of megabytes.
-        const QDomDocument document = ZTXMLLoader::loadDocument(file);
-        const QDomElement root = document.documentElement();
-        for (const QString& nodeName : nodeNames) {
-            const QDomElement section = root.firstChildElement(nodeName + QLatin1Char('s'));
-            for (QDomElement element = section.firstChildElement(nodeName); !element.isNull();
-                 element = element.nextSiblingElement(nodeName))
-                parseElement(element);
+
+        // The document is streamed, one element at a time: a full catalogue is tens of
+        // megabytes. Node names are read in list order whatever the order of the sections, so
+        // that the same id in two sections ends the same way: an element is parsed at once
+        // while every earlier section has been read and parsed, else kept until the end.
+        std::vector<bool> started(size_t(sectionNames.size()), false);
+        std::vector<QList<QDomElement>> deferred(size_t(sectionNames.size()));
+        bool deferring = false;
+        const bool complete = ZTXMLLoader::forEachSectionElement(
+            file, sectionNames, [&](qsizetype theSection, const QDomElement& theElement) {
+                if (theElement.tagName() != nodeNames.at(theSection))
+                    return;
+                const size_t section = size_t(theSection);
+                started[section] = true;
+                bool due = true;
+                for (size_t earlier = 0; earlier < section && due; ++earlier)
+                    due = started[earlier] && deferred[earlier].isEmpty();
+                if (due) {
+                    parseElement(theElement);
+                } else {
+                    deferred[section].append(theElement);
+                    deferring = true;
+                }
+            });
+        if (!complete) {
+            myData.swap(previous);
+            return;
+        }
+        if (deferring) {
+            for (const QList<QDomElement>& elements : deferred) {
+                for (const QDomElement& element : elements)
+                    parseElement(element);
+            }
         }
     }
 

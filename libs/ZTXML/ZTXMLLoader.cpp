@@ -3,30 +3,53 @@
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
+#include <QXmlStreamReader>
+
+#include <vector>
+
+namespace {
+
+// Opens the file for reading, or warns and gives false. Both readers use it, so that a missing
+// file reads the same everywhere.
+bool openFile(const QFileInfo& theFileInfo, QFile& theFile)
+{
+    const QString path = theFileInfo.filePath();
+    if (path.isEmpty()) {
+        qWarning() << "cannot load XML: no file given";
+        return false;
+    }
+    theFile.setFileName(path);
+    if (!theFile.open(QIODevice::ReadOnly)) {
+        qWarning().noquote()
+            << QStringLiteral("cannot load XML file %1: %2").arg(path, theFile.errorString());
+        return false;
+    }
+    return true;
+}
+
+void warnParseError(const QString& thePath, qint64 theLine, qint64 theColumn, const QString& theMessage)
+{
+    qWarning().noquote() << QStringLiteral("XML error in %1 at line %2, column %3: %4")
+                                .arg(thePath)
+                                .arg(theLine)
+                                .arg(theColumn)
+                                .arg(theMessage);
+}
+
+} // namespace
 
 QDomDocument ZTXMLLoader::loadDocument(const QFileInfo& theFile)
 {
-    const QString path = theFile.filePath();
-    if (path.isEmpty()) {
-        qWarning() << "cannot load XML: no file given";
+    QFile file;
+    if (!openFile(theFile, file))
         return QDomDocument();
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        qWarning().noquote() << QStringLiteral("cannot load XML file %1: %2").arg(path, file.errorString());
-        return QDomDocument();
-    }
     QDomDocument document;
     QString message;
     int line = 0;
     int column = 0;
     // Namespace processing costs time and no document of a key account uses namespaces.
     if (!document.setContent(&file, false, &message, &line, &column)) {
-        qWarning().noquote() << QStringLiteral("XML error in %1 at line %2, column %3: %4")
-                                    .arg(path)
-                                    .arg(line)
-                                    .arg(column)
-                                    .arg(message);
+        warnParseError(file.fileName(), line, column, message);
         return QDomDocument();
     }
     return document;
@@ -35,4 +58,83 @@ QDomDocument ZTXMLLoader::loadDocument(const QFileInfo& theFile)
 QDomElement ZTXMLLoader::loadDocumentElement(const QFileInfo& theFile)
 {
     return loadDocument(theFile).documentElement();
+}
+
+bool ZTXMLLoader::forEachSectionElement(
+    const QFileInfo& theFile, const QStringList& theSectionNames,
+    const std::function<void(qsizetype theSection, const QDomElement& theElement)>& theCallback)
+{
+    QFile file;
+    if (!openFile(theFile, file))
+        return false;
+
+    QXmlStreamReader reader(&file);
+    reader.setNamespaceProcessing(false);
+    std::vector<bool> seenSections(size_t(theSectionNames.size()), false);
+    qsizetype section = -1; // the wanted section being read, or -1
+    int depth = 0;          // of the element last opened; the root is 1
+    QDomDocument document;  // of the element being built, null between elements
+    QDomNode current;       // innermost open node of that element
+
+    while (!reader.atEnd()) {
+        switch (reader.readNext()) {
+        case QXmlStreamReader::StartElement: {
+            ++depth;
+            if (depth == 2) {
+                const qsizetype index = theSectionNames.indexOf(reader.qualifiedName());
+                if (index < 0 || seenSections[size_t(index)]) {
+                    reader.skipCurrentElement();
+                    --depth;
+                } else {
+                    seenSections[size_t(index)] = true;
+                    section = index;
+                }
+                break;
+            }
+            if (depth < 3 || section < 0)
+                break;
+            // A fresh document has no body until it creates its first node, so the element
+            // goes in through the document itself rather than through a copy of it.
+            if (depth == 3) {
+                document = QDomDocument();
+                current = QDomNode();
+            }
+            QDomElement element = document.createElement(reader.qualifiedName().toString());
+            const QXmlStreamAttributes attributes = reader.attributes();
+            for (const QXmlStreamAttribute& attribute : attributes)
+                element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
+            current = current.isNull() ? document.appendChild(element) : current.appendChild(element);
+            break;
+        }
+        case QXmlStreamReader::EndElement:
+            if (depth == 2)
+                section = -1;
+            if (depth >= 3 && section >= 0) {
+                current = current.parentNode();
+                if (depth == 3) {
+                    theCallback(section, document.documentElement());
+                    document = QDomDocument();
+                    current = QDomNode();
+                }
+            }
+            --depth;
+            break;
+        case QXmlStreamReader::Characters:
+            if (depth < 3 || section < 0)
+                break;
+            // Like a DOM parse: indentation makes no node, every piece of text one node.
+            if (reader.isCDATA())
+                current.appendChild(document.createCDATASection(reader.text().toString()));
+            else if (!reader.isWhitespace())
+                current.appendChild(document.createTextNode(reader.text().toString()));
+            break;
+        default:
+            break;
+        }
+    }
+    if (reader.hasError()) {
+        warnParseError(file.fileName(), reader.lineNumber(), reader.columnNumber(), reader.errorString());
+        return false;
+    }
+    return true;
 }

@@ -5,6 +5,9 @@
 
 #include <QDomDocument>
 #include <QDomElement>
+#include <QStringList>
+
+#include <functional>
 
 class QFileInfo;
 
@@ -17,6 +20,21 @@ public:
     static QDomDocument loadDocument(const QFileInfo& theFile);
     // The root element of loadDocument(); the document lives as long as the element is held.
     static QDomElement loadDocumentElement(const QFileInfo& theFile);
+
+    // Streams a file instead of holding it whole: every element directly under a wanted section
+    // (a child of the root whose tag name is in theSectionNames) comes to theCallback as the
+    // document element of a small document of its own, with its tag name, attributes, child
+    // elements, text and CDATA; comments and processing instructions are left out. theSection
+    // is the index of its section in theSectionNames. Only the first section of each name
+    // counts, as with firstChildElement(); later ones are skipped.
+    //
+    // Elements come in document order while the file is read, so a parse error can only be seen
+    // after the elements before it went out. Then the result is false, the callback sees
+    // nothing more, and the warning is the one of loadDocument(): callers collect what they are
+    // given and keep it only on true. A missing file gives false and its warning as well.
+    static bool forEachSectionElement(
+        const QFileInfo& theFile, const QStringList& theSectionNames,
+        const std::function<void(qsizetype theSection, const QDomElement& theElement)>& theCallback);
 };
 
 #endif // ZTXMLLOADER_H

@@ -196,6 +196,32 @@ private Q_SLOTS:
         QCOMPARE(objects->deliveryTimes(ZTArticleId(1001)).size(), 2);
     }
 
+    // Sections count in node-name order whatever their order in the file; a broken file leaves
+    // the store as it was, although the elements before the error were parsed.
+    void sectionOrderAndBrokenFile()
+    {
+        QTemporaryDir directory;
+        ZTProgramConfig::instance()->setKeyAccountDirectory(directory.path());
+        const auto write = [&directory](const char* theText) {
+            QFile file(directory.filePath(QStringLiteral("products.xml")));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(theText);
+        };
+        write("<xtci><transfers><transfer id='1'><a/><a/><a/></transfer></transfers>"
+              "<add_ons><add_on id='1'><a/><a/></add_on></add_ons>"
+              "<articles><article id='1'><a/></article><article id='2'><a/></article></articles></xtci>");
+        CountingStore store;
+        QCOMPARE(store.data(ZTArticleId(1)), 3);
+
+        write("<xtci><articles><article id='1'><a/><a/><a/><a/><a/></article>");
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("^XML error in .*products\\.xml at line 1")));
+        store.load();
+        QCOMPARE(store.myParsedElements.load(), 5);
+        QCOMPARE(store.data(ZTArticleId(1)), 3);
+        QCOMPARE(store.data(ZTArticleId(2)), 1);
+    }
+
     void demoCatalogue_data()
     {
         QTest::addColumn<int>("id");
