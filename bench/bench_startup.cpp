@@ -30,8 +30,8 @@ void quietMessages(QtMsgType type, const QMessageLogContext&, const QString& mes
         std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 
-// Reading the file, building the tree and freeing it again, as every reading in the engine
-// does; the best of three runs.
+// Reading the file, building the whole tree and freeing it again, as the data base's reading of
+// the products does (the stores stream theirs); the best of three runs.
 qint64 parseMilliseconds(const QString& thePath)
 {
     qint64 best = -1;
