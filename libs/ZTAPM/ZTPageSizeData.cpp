@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -167,45 +168,39 @@ int ZTPageSizeData::readPixels(const QDomElement& theElement, const QString& the
     return ZTXMLParser::readDistance(theElement, theName, theDefault, theUnit).roundedPixels();
 }
 
+std::optional<QSize> ZTPageSizeData::readPixelPair(const QDomElement& theElement, const QString& theFirst,
+                                                   const QString& theSecond, const ZTDistanceUnit& theUnit)
+{
+    if (!hasBoth(theElement, theFirst, theSecond))
+        return std::nullopt;
+    return QSize(readPixels(theElement, theFirst, theUnit, 0.0),
+                 readPixels(theElement, theSecond, theUnit, 0.0));
+}
+
 void ZTPageSizeData::readExtraPageSize(const QDomElement& theElement, const ZTDistanceUnit& theUnit,
                                        const ZTPageSizeData& theDefaults)
 {
-    const QString widthName = QStringLiteral("extra_width_left_right");
-    const QString heightName = QStringLiteral("extra_height_top_bottom");
-    if (hasBoth(theElement, widthName, heightName)) {
-        myExtraPageSize = QSize(readPixels(theElement, widthName, theUnit, 0.0),
-                                readPixels(theElement, heightName, theUnit, 0.0));
-    } else {
-        myExtraPageSize = theDefaults.myExtraPageSize;
-    }
+    myExtraPageSize = readPixelPair(theElement, QStringLiteral("extra_width_left_right"),
+                                    QStringLiteral("extra_height_top_bottom"), theUnit)
+                          .value_or(theDefaults.myExtraPageSize);
 }
 
 void ZTPageSizeData::readPageSize(const QDomElement& theElement, const ZTDistanceUnit& theUnit,
                                   const ZTPageSizeData& theDefaults)
 {
-    const QString widthName = QStringLiteral("width");
-    const QString heightName = QStringLiteral("height");
-    if (hasBoth(theElement, widthName, heightName)) {
-        // The extra strips lie on both sides.
-        myPageSize = QSize(readPixels(theElement, widthName, theUnit, 0.0) + 2 * myExtraPageSize.width(),
-                           readPixels(theElement, heightName, theUnit, 0.0) + 2 * myExtraPageSize.height());
-    } else {
-        // Taken as it stands: the defaults' size contains its strips already.
-        myPageSize = theDefaults.myPageSize;
-    }
+    const std::optional<QSize> size =
+        readPixelPair(theElement, QStringLiteral("width"), QStringLiteral("height"), theUnit);
+    // The extra strips lie on both sides; the defaults' size contains its strips already.
+    myPageSize = size ? *size + 2 * myExtraPageSize : theDefaults.myPageSize;
 }
 
 void ZTPageSizeData::readBleedMargins(const QDomElement& theElement, const ZTDistanceUnit& theUnit,
                                       const ZTPageSizeData& theDefaults)
 {
-    const QString horizontalName = QStringLiteral("bleed_left_right");
-    const QString verticalName = QStringLiteral("bleed_top_bottom");
-    if (hasBoth(theElement, horizontalName, verticalName)) {
-        myBleedMargins = ZTBleedMargin(readPixels(theElement, horizontalName, theUnit, 0.0),
-                                       readPixels(theElement, verticalName, theUnit, 0.0));
-    } else {
-        myBleedMargins = theDefaults.myBleedMargins;
-    }
+    const std::optional<QSize> margins = readPixelPair(theElement, QStringLiteral("bleed_left_right"),
+                                                       QStringLiteral("bleed_top_bottom"), theUnit);
+    myBleedMargins =
+        margins ? ZTBleedMargin(margins->width(), margins->height()) : theDefaults.myBleedMargins;
 }
 
 void ZTPageSizeData::readSupportedCropTypes(const QDomElement& theElement, const ZTDistanceUnit& theUnit,

@@ -9,6 +9,8 @@
 #include <QSet>
 #include <QSize>
 
+#include <optional>
+
 class QDomElement;
 class ZTArticleClass;
 class ZTDistanceUnit;
@@ -63,6 +65,9 @@ public:
 protected:
     static int readPixels(const QDomElement& theElement, const QString& theName,
                           const ZTDistanceUnit& theUnit, double theDefault);
+    // Both lengths of a pair, in pixels; nothing unless the element gives both.
+    static std::optional<QSize> readPixelPair(const QDomElement& theElement, const QString& theFirst,
+                                              const QString& theSecond, const ZTDistanceUnit& theUnit);
     void readPageSize(const QDomElement& theElement, const ZTDistanceUnit& theUnit,
                       const ZTPageSizeData& theDefaults);
     void readExtraPageSize(const QDomElement& theElement, const ZTDistanceUnit& theUnit,
