@@ -1,15 +1,23 @@
 include(GenerateExportHeader)
 
-# zt_add_library(<name> SOURCES ... [PUBLIC_LIBS ...] [PRIVATE_LIBS ...])
+# zt_add_library(<name> [FOLDERS dir ...] SOURCES ... [PUBLIC_LIBS ...] [PRIVATE_LIBS ...])
 # A shared library whose headers are included by class name and whose public classes are exported
-# through the generated <name>_export.h; everything else stays hidden.
+# through the generated <name>_export.h; everything else stays hidden. A library grown into
+# FOLDERS (one per subsystem) has each folder on its include path, and its headers install flat.
+# The private bodies (...Impl.h, ..._p.h) are never installed: they are the library's own.
 function(zt_add_library name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC_LIBS;PRIVATE_LIBS" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "FOLDERS;SOURCES;PUBLIC_LIBS;PRIVATE_LIBS" ${ARGN})
     add_library(${name} SHARED ${ARG_SOURCES})
     string(TOLOWER ${name} lower)
     generate_export_header(${name} BASE_NAME ${name} EXPORT_FILE_NAME ${lower}_export.h)
+    set(folders ${CMAKE_CURRENT_SOURCE_DIR})
+    foreach(folder ${ARG_FOLDERS})
+        list(APPEND folders ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+    endforeach()
+    foreach(folder ${folders})
+        target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${folder}>)
+    endforeach()
     target_include_directories(${name} PUBLIC
-        $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
         $<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${name}>)
     target_link_libraries(${name} PUBLIC ${ARG_PUBLIC_LIBS} PRIVATE ${ARG_PRIVATE_LIBS})
@@ -17,7 +25,12 @@ function(zt_add_library name)
         CXX_VISIBILITY_PRESET hidden
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR})
-    file(GLOB headers ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+    set(headers)
+    foreach(source ${ARG_SOURCES})
+        if(source MATCHES "\\.h$" AND NOT source MATCHES "(Impl|_p)\\.h$")
+            list(APPEND headers ${CMAKE_CURRENT_SOURCE_DIR}/${source})
+        endif()
+    endforeach()
     install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
     install(FILES ${headers} ${CMAKE_CURRENT_BINARY_DIR}/${lower}_export.h
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${name})
