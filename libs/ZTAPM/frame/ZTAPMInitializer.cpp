@@ -1,9 +1,11 @@
 #include "ZTAPMInitializer.h"
 
 #include "ZTAPMDataBase.h"
+#include "ZTAPMProductChecker.h"
 #include "ZTInitializer.h"
 #include "ZTPageOrganizationCalculatorAPM.h"
 #include "ZTPageOrganizationManager.h"
+#include "ZTProductCheckerRegistry.h"
 
 #include <QDebug>
 
@@ -22,6 +24,8 @@ void ZTAPMInitializer::setup(ZTInitializerOption)
     ZTSingleton<ZTAPMDataBase>::instance();
     ZTSingleton<ZTPageOrganizationManager>::instance()->setCalculator(new ZTPageOrganizationCalculatorAPM);
     qInfo() << "Calculator set for Page Organization Manager (POM).";
+    ZTSingleton<ZTProductCheckerRegistry>::instance()->registerChecker(new ZTAPMProductChecker);
+    qInfo() << "Checker registerd with Product Checker Registry (PCR).";
 }
 
 void ZTAPMInitializer::teardown()
