@@ -356,6 +356,13 @@ ZTMoney ZTProductAbstract::priceFor(const ZTAPMPriceKey& theKey, int theCount, c
     return priceInfo().priceFor(theKey, theCount, theBillingSum, theBill, theStatistic);
 }
 
+ZTAPMPriceExplanation ZTProductAbstract::explainPrice(const ZTAPMPriceKey& theKey, int theCount,
+                                                      const ZTMoney& theBillingSum,
+                                                      const ZTAPMOrderStatistic* theStatistic) const
+{
+    return priceInfo().explainPrice(theKey, theCount, theBillingSum, theStatistic);
+}
+
 bool ZTProductAbstract::shippingTimesEnabled() const
 {
     return !deliveryTimes().isEmpty();

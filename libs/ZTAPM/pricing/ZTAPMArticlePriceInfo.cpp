@@ -11,6 +11,8 @@
 #include <QDebug>
 #include <QDomElement>
 
+#include <algorithm>
+
 namespace {
 const QString PRICE_NODE = QStringLiteral("price");
 
@@ -29,6 +31,11 @@ ZTMoney times(ZTMoney theMoney, int theFactor)
 {
     theMoney *= theFactor;
     return theMoney;
+}
+
+bool byModelValue(const ZTDiscountModel& theFirst, const ZTDiscountModel& theSecond)
+{
+    return theFirst.value() < theSecond.value();
 }
 
 // The price outside the offer, or the row's own price where no offer runs.
@@ -81,6 +88,8 @@ void ZTAPMArticlePriceInfo::update(const QDomElement& theArticleNode)
     // Upper bounds last, so that they are computed within the converted photo package ladder.
     myPriceValues = table.fixedDiscountModelW().fixedUpperLimits();
     myDiscountModels = myPriceValues.discountModels();
+    myDiscountModelsInOrder = QList<ZTDiscountModel>(myDiscountModels.cbegin(), myDiscountModels.cend());
+    std::sort(myDiscountModelsInOrder.begin(), myDiscountModelsInOrder.end(), byModelValue);
     myTransferModel = parseTransferModel(theArticleNode);
 }
 
@@ -88,6 +97,7 @@ void ZTAPMArticlePriceInfo::clear()
 {
     myPriceValues.clear();
     myDiscountModels.clear();
+    myDiscountModelsInOrder.clear();
     myTransferModel = ZTTransferModelNone;
 }
 
@@ -150,6 +160,24 @@ bool ZTAPMArticlePriceInfo::hasDiscountModel(const ZTOrderSource& theOrderSource
                                              const ZTDiscountModel& theModel) const
 {
     return myPriceValues.containsDiscountModel(theOrderSource, theModel);
+}
+
+QList<ZTAPMPriceValue> ZTAPMArticlePriceInfo::ladder(const ZTOrderSource& theOrderSource) const
+{
+    QList<ZTAPMPriceValue> result;
+    const ZTAPMPriceValues::Rows& rows = myPriceValues.rows();
+    for (auto it = rows.cbegin(); it != rows.cend(); ++it) {
+        if (it.key().orderSource() == theOrderSource)
+            result.append(it.value());
+    }
+    // Model and level make a row's key within one order source, so the order is total.
+    std::sort(result.begin(), result.end(),
+              [](const ZTAPMPriceValue& theFirst, const ZTAPMPriceValue& theSecond) {
+                  if (theFirst.discountModel() != theSecond.discountModel())
+                      return byModelValue(theFirst.discountModel(), theSecond.discountModel());
+                  return theFirst.discountLevel() < theSecond.discountLevel();
+              });
+    return result;
 }
 
 ZTDiscountLimit ZTAPMArticlePriceInfo::fotoBasePackageLimit(const ZTOrderSource& theOrderSource) const
@@ -273,16 +301,58 @@ ZTMoney ZTAPMArticlePriceInfo::priceFor(const ZTAPMPriceKey& theKey, int theCoun
 {
     if (myTransferModel == ZTTransferModelPerBasket)
         return priceInTransferModel2(theKey, theStatistic, theBill);
+    const int inheritedLevel = theBill ? inheritedDiscountLevel(*theBill) : 0;
+    return priceInModel(chosenKey(theKey, theCount, theBillingSum, inheritedLevel), theCount, theBillingSum,
+                        theBill);
+}
+
+ZTAPMPriceKey ZTAPMArticlePriceInfo::chosenKey(const ZTAPMPriceKey& theKey, int theCount,
+                                               const ZTMoney& theBillingSum, int theInheritedLevel) const
+{
     // The caller of an express fee names its model; it takes no part in the search.
     if (theKey.discountModel() == ZTDiscountModelExpressFee)
-        return priceInModel(theKey, theCount, theBillingSum, theBill);
-
-    const int inheritedLevel = theBill ? inheritedDiscountLevel(*theBill) : 0;
+        return theKey;
     ZTAPMPriceKey key(theKey);
-    key.setDiscountModel(bestDiscountModel(theKey, theCount, theBillingSum, inheritedLevel));
+    key.setDiscountModel(bestDiscountModel(theKey, theCount, theBillingSum, theInheritedLevel));
     if (key.discountModel() == ZTDiscountModelInherited)
-        key.setDiscountLevel(inheritedLevel);
-    return priceInModel(key, theCount, theBillingSum, theBill);
+        key.setDiscountLevel(theInheritedLevel);
+    return key;
+}
+
+ZTAPMPriceKey ZTAPMArticlePriceInfo::candidateKey(const ZTAPMPriceKey& theKey,
+                                                  const ZTDiscountModel& theModel, int theInheritedLevel)
+{
+    ZTAPMPriceKey key(theKey, theModel);
+    if (theModel == ZTDiscountModelInherited)
+        key.setDiscountLevel(theInheritedLevel);
+    return key;
+}
+
+ZTAPMPriceExplanation ZTAPMArticlePriceInfo::explainPrice(const ZTAPMPriceKey& theKey, int theCount,
+                                                          const ZTMoney& theBillingSum,
+                                                          const ZTAPMOrderStatistic* theStatistic) const
+{
+    const bool expressFee = theKey.discountModel() == ZTDiscountModelExpressFee;
+    QList<ZTAPMPriceExplanation::Candidate> candidates;
+    for (const ZTDiscountModel& model : myDiscountModelsInOrder) {
+        if (expressFee && model != ZTDiscountModelExpressFee)
+            continue;
+        candidates.append(
+            {model, priceInModel(candidateKey(theKey, model, 0), theCount, theBillingSum, nullptr)});
+    }
+    ZTDiscountModel chosen;
+    ZTMoney amount;
+    if (myTransferModel == ZTTransferModelPerBasket) {
+        chosen = ZTDiscountModelBasketTransfer;
+        amount = priceInTransferModel2(theKey, theStatistic, nullptr);
+    } else {
+        const ZTAPMPriceKey key = chosenKey(theKey, theCount, theBillingSum, 0);
+        chosen = key.discountModel();
+        amount = priceInModel(key, theCount, theBillingSum, nullptr);
+    }
+    if (amount == ZTMoney(ZTMoney::noPrice))
+        chosen = ZTDiscountModel();
+    return ZTAPMPriceExplanation(chosen, amount, candidates);
 }
 
 int ZTAPMArticlePriceInfo::inheritedDiscountLevel(const ZTAPMBillPositionList& theBill) const
@@ -347,10 +417,8 @@ ZTDiscountModel ZTAPMArticlePriceInfo::bestDiscountModel(const ZTAPMPriceKey& th
     ZTMoney bestPrice(ZTMoney::notSet);
     ZTDiscountModel bestModel;
     for (const ZTDiscountModel& model : myDiscountModels) {
-        ZTAPMPriceKey key(theKey, model);
-        if (model == ZTDiscountModelInherited)
-            key.setDiscountLevel(theInheritedLevel);
-        const ZTMoney price = priceInModel(key, theCount, theBillingSum, nullptr);
+        const ZTMoney price =
+            priceInModel(candidateKey(theKey, model, theInheritedLevel), theCount, theBillingSum, nullptr);
         if (price == ZTMoney(ZTMoney::noPrice))
             continue;
         // A transfer by the goods' sum and an inherited level are the business's decision

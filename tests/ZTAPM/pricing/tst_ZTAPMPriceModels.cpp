@@ -107,6 +107,57 @@ private Q_SLOTS:
         qDeleteAll(bill);
     }
 
+    void explainPrice_data()
+    {
+        QTest::addColumn<int>("article");
+        QTest::addColumn<int>("keyModel");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<int>("chosen");
+        QTest::addColumn<int>("amount");
+        QTest::addColumn<QString>("candidates");
+
+        QTest::newRow("flat beats bulk total") << 90002 << 0 << 2 << 16 << 100 << "2=1000 16=100";
+        QTest::newRow("express fee: only x") << 90006 << 128 << 12 << 128 << 1490 << "128=1490";
+        QTest::newRow("express fee without x rows") << 90001 << 128 << 1 << 0 << -1 << "";
+        QTest::newRow("basket-wide transfer") << 90011 << 0 << 3 << 64 << 0 << "16=0";
+        QTest::newRow("nothing prices") << 90013 << 0 << 1 << 0 << -1 << "1=-1";
+        QTest::newRow("inherited level 0 without a bill") << 90007 << 0 << 3 << 256 << 450 << "256=450";
+    }
+
+    // The explanation answers what priceFor answers, and names the model that gave it.
+    void explainPrice()
+    {
+        QFETCH(int, article);
+        QFETCH(int, keyModel);
+        QFETCH(int, count);
+        QFETCH(int, chosen);
+        QFETCH(int, amount);
+        QFETCH(QString, candidates);
+
+        const ZTAPMArticlePriceInfo& info = myInfos[article];
+        const ZTAPMPriceKey key(ZTOrderSource::onlineMailOrder(), 0, ZTDiscountModelEnum(keyModel));
+        const ZTAPMPriceExplanation explanation = info.explainPrice(key, count, ZTMoney(0), nullptr);
+        QCOMPARE(explanation.amount(), info.priceFor(key, count, ZTMoney(0), nullptr, nullptr));
+        QCOMPARE(explanation.amount(), ZTMoney(amount));
+        QCOMPARE(int(explanation.chosenModel().value()), chosen);
+        QStringList texts;
+        for (const ZTAPMPriceExplanation::Candidate& candidate : explanation.candidates())
+            texts.append(
+                QStringLiteral("%1=%2").arg(int(candidate.first.value())).arg(candidate.second.value()));
+        QCOMPARE(texts.join(QLatin1Char(' ')), candidates);
+    }
+
+    void ladder()
+    {
+        // By model value, then level; other order sources left out.
+        QStringList rows;
+        for (const ZTAPMPriceValue& value : myInfos[90003].ladder(ZTOrderSource::onlineMailOrder()))
+            rows.append(
+                QStringLiteral("%1:%2").arg(int(value.discountModel().value())).arg(value.discountLevel()));
+        QCOMPARE(rows.join(QLatin1Char(' ')), QStringLiteral("2:0 16:0 32:1"));
+        QVERIFY(myInfos[90003].ladder(ZTOrderSource::cdPointOfSale()).isEmpty());
+    }
+
     void modelsOnTheirOwn()
     {
         const ZTAPMPriceKey mail(ZTOrderSource::onlineMailOrder());
