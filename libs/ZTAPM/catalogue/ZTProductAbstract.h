@@ -137,6 +137,7 @@ public:
     bool matches(const ZTArticleId& theId, const ZTPriceClass& thePriceClass) const;
 
     // The quantity from which the best unit price holds; 0x7fffffff when no limit has a price.
+    // Ties as ZTAPMArticlePriceInfo::bestPriceCount decides them.
     int bestPriceCountFor(const ZTAPMPriceKey& theKey) const;
     int bestPriceCount() const;
 

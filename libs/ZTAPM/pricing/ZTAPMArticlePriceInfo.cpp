@@ -5,6 +5,7 @@
 #include "ZTAPMBillPositionList.h"
 #include "ZTAPMDataBase.h"
 #include "ZTAPMOrderStatistic.h"
+#include "ZTDiscountLimitList.h"
 #include "ZTProductAbstract.h"
 #include "ZTXMLParser.h"
 
@@ -12,6 +13,7 @@
 #include <QDomElement>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 const QString PRICE_NODE = QStringLiteral("price");
@@ -254,15 +256,46 @@ ZTDiscountLimitSet ZTAPMArticlePriceInfo::discountLimits(const ZTAPMPriceKey& th
     return result;
 }
 
+int ZTAPMArticlePriceInfo::bestPriceCount(const ZTAPMPriceKey& theKey) const
+{
+    ZTDiscountLimitList limits(discountLimits(theKey).values());
+    limits.sort();
+    ZTMoney bestPrice(ZTMoney::notSet);
+    int bestCount = ZTMoney::notSet;
+    for (const ZTDiscountLimit& limit : std::as_const(limits)) {
+        const ZTMoney candidate = priceAtBound(theKey, limit);
+        if (!candidate.isValid())
+            continue;
+        // Of equal prices a photo package row that came from a bulk row names the better count.
+        const bool takesOver =
+            candidate < bestPrice ||
+            (candidate == bestPrice && limit.discountModel().matches(ZTDiscountModelFotoPackage) &&
+             limit.wasBulkModel());
+        if (!takesOver)
+            continue;
+        bestPrice = candidate;
+        bestCount = limit.lowerLimit();
+    }
+    return bestCount;
+}
+
 QString ZTAPMArticlePriceInfo::dump() const
 {
     QStringList models;
-    for (const ZTDiscountModel& model : myDiscountModels)
+    for (const ZTDiscountModel& model : myDiscountModelsInOrder)
         models.append(model.encode());
-    QStringList rows;
+    // Rows by input source, delivery type, model value and level, so that two dumps compare.
     const ZTAPMPriceValues::Rows& values = myPriceValues.rows();
-    for (auto it = values.cbegin(); it != values.cend(); ++it)
-        rows.append(QStringLiteral("key:   %1\nprice: %2").arg(it.key().dump(), it.value().dump()));
+    QList<ZTAPMPriceKey> keys = values.keys();
+    std::sort(keys.begin(), keys.end(), [](const ZTAPMPriceKey& theFirst, const ZTAPMPriceKey& theSecond) {
+        return std::make_tuple(int(theFirst.inputSource().value()), int(theFirst.deliveryType().value()),
+                               int(theFirst.discountModel().value()), theFirst.discountLevel()) <
+               std::make_tuple(int(theSecond.inputSource().value()), int(theSecond.deliveryType().value()),
+                               int(theSecond.discountModel().value()), theSecond.discountLevel());
+    });
+    QStringList rows;
+    for (const ZTAPMPriceKey& key : std::as_const(keys))
+        rows.append(QStringLiteral("key:   %1\nprice: %2").arg(key.dump(), values.value(key).dump()));
     return QStringList{QStringLiteral("\nZTAPMArticlePriceInfo:"),
                        QStringLiteral("    transfer model: %1").arg(myTransferModel.encode()),
                        QStringLiteral("    max discount level: %1").arg(maxDiscountLevel()),
@@ -363,6 +396,7 @@ int ZTAPMArticlePriceInfo::inheritedDiscountLevel(const ZTAPMBillPositionList& t
         return result;
     // The linked articles are priced before their add-ons, so their positions are there already.
     const ZTAPMBillPositionList positions = theBill.filter(ZTArticleClass(ZTArticleClassAll));
+    // The highest level wins, so the walk's order does not matter.
     const ZTArticleIdSet linkedIds = addOn->linkedArticleIds();
     for (const ZTArticleId& id : linkedIds) {
         const ZTAPMBillPosition* position =
@@ -416,7 +450,7 @@ ZTDiscountModel ZTAPMArticlePriceInfo::bestDiscountModel(const ZTAPMPriceKey& th
 {
     ZTMoney bestPrice(ZTMoney::notSet);
     ZTDiscountModel bestModel;
-    for (const ZTDiscountModel& model : myDiscountModels) {
+    for (const ZTDiscountModel& model : myDiscountModelsInOrder) {
         const ZTMoney price =
             priceInModel(candidateKey(theKey, model, theInheritedLevel), theCount, theBillingSum, nullptr);
         if (price == ZTMoney(ZTMoney::noPrice))
@@ -425,6 +459,7 @@ ZTDiscountModel ZTAPMArticlePriceInfo::bestDiscountModel(const ZTAPMPriceKey& th
         // whenever they apply, even where another model would be cheaper.
         if (model == ZTDiscountModelBillingSumTransfer || model == ZTDiscountModelInherited)
             return model;
+        // Strict: of equal prices the lower model value, visited first, stays.
         if (bestPrice > price) {
             bestPrice = price;
             bestModel = model;
@@ -579,10 +614,9 @@ ZTAPMArticlePriceInfo::baseTransferPriceInTransferModel2(const ZTAPMPriceKey& th
     if (!theStatistic)
         return result;
     const ZTAPMPriceKey key(theKey, ZTDiscountModelBulk);
-    const ZTAPMOrderStatistic::Items items = theStatistic->items();
-    for (auto it = items.cbegin(); it != items.cend(); ++it) {
-        if (it.value() != 0)
-            result = qMax(result, it.key()->baseTransferPrice(key));
+    for (const ZTAPMOrderStatistic::Item& item : theStatistic->itemsByArticleId()) {
+        if (item.second != 0)
+            result = qMax(result, item.first->baseTransferPrice(key));
     }
     return result;
 }
@@ -597,15 +631,15 @@ ZTAPMArticlePriceInfo::unitTransferPriceInTransferModel2(const ZTAPMPriceKey& th
     const ZTAPMPriceKey key(theKey, ZTDiscountModelBulk);
     const ZTProductAbstract* leader = nullptr;
     ZTMoney leaderBasePrice;
-    const ZTAPMOrderStatistic::Items items = theStatistic->items();
-    // Unlike the base half, products without pieces take part: one of them may lead.
-    for (auto it = items.cbegin(); it != items.cend(); ++it) {
-        const ZTMoney basePrice = it.key()->baseTransferPrice(key);
+    // Unlike the base half, products without pieces take part: one of them may lead. Of equal
+    // base prices the lowest article id leads, as the walk goes by article id.
+    for (const ZTAPMOrderStatistic::Item& item : theStatistic->itemsByArticleId()) {
+        const ZTMoney basePrice = item.first->baseTransferPrice(key);
         if (!leader || basePrice > leaderBasePrice) {
-            leader = it.key();
+            leader = item.first;
             leaderBasePrice = basePrice;
         }
-        sum += times(it.key()->unitTransferPrice(key), it.value());
+        sum += times(item.first->unitTransferPrice(key), item.second);
     }
     // One piece of the leading product is paid by the base price instead.
     if (leader)

@@ -104,6 +104,10 @@ public:
     // The limits of the priced rows that theKey covers as a pattern, open-ended duplicates
     // removed. Nothing for a key of level 0 unless its model is bulk.
     ZTDiscountLimitSet discountLimits(const ZTAPMPriceKey& theKey) const;
+    // The lower bound of the limit of theKey's pattern with the best price, limits in the limit
+    // list's order. Of equal prices the first stays, except that a converted "y" row of a photo
+    // package takes over; 0x7fffffff when no limit has a price.
+    int bestPriceCount(const ZTAPMPriceKey& theKey) const;
 
     // The catalogue's product of this article; null if the catalogue has none.
     ZTProductAbstract* product() const;
@@ -130,7 +134,8 @@ public:
     ZTMoney priceInModel(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
                          ZTAPMBillPositionList* theBill) const;
     // The model of the cheapest price, except that "z" and "I" win whenever they price at all;
-    // 0 if no model prices. Models are tried without positions.
+    // 0 if no model prices. Models are tried without positions, in ascending model value: so "z"
+    // (32) wins over "I" (256) where both price, and of equal prices the lower model value wins.
     ZTDiscountModel bestDiscountModel(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
                                       int theInheritedLevel) const;
     // The transfer's amount without positions: for a basket-wide transfer only its base half.
@@ -158,7 +163,8 @@ public:
     ZTMoney priceBillingSumTransfer(const ZTAPMPriceKey& theKey, const ZTMoney& theBillingSum,
                                     ZTAPMBillPositionList* theList) const;
     // A basket-wide transfer (transfer model 2): the highest base price of the basket once, and
-    // every other piece at its unit price; one position of model 64 in a bill.
+    // every other piece at its unit price; one position of model 64 in a bill. The basket is
+    // walked by article id: of equal base prices the lowest article id leads.
     ZTMoney priceInTransferModel2(const ZTAPMPriceKey& theKey, const ZTAPMOrderStatistic* theStatistic,
                                   ZTAPMBillPositionList* theBill) const;
     // The highest base transfer price of the products the basket holds pieces of; 0 without one.
@@ -177,6 +183,7 @@ public:
     ZTAPMBillPosition* createBillPosition(int theUnitCount, int theItemsPerUnit,
                                           const ZTAPMPriceValue& theValue) const;
 
+    // Models by value; rows by input source, delivery type, model value and level.
     QString dump() const;
 
 private:
