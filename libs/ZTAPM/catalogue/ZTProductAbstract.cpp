@@ -17,7 +17,9 @@ namespace {
 
 constexpr qint32 noAmount = 0x7fffffff;
 // Prints and premium prints: their cheapest piece may lie at any limit of the ladder.
-constexpr ZTArticleClassEnum classesPricedAtAllLimits = ZTArticleClassEnum(0x18000);
+constexpr ZTArticleClassEnum classesPricedAtAllLimits =
+    ZTArticleClassEnum(ZTArticleClassPrints | ZTArticleClassPremiumPrints);
+static_assert(classesPricedAtAllLimits == 0x18000, "the classes that price at all limits");
 
 ZTAPMObjects* stores()
 {
