@@ -478,19 +478,9 @@ int ZTAPMCommandLine::runArticle(const QStringList& theArguments)
     QJsonArray prices;
     for (const OrderSourceName& source : theOrderSources) {
         const ZTOrderSource orderSource = source.make();
-        QList<ZTAPMPriceValue> values;
-        const ZTAPMPriceValues::Rows& rows = priceInfo.priceValues().rows();
-        for (auto it = rows.cbegin(); it != rows.cend(); ++it) {
-            if (it.key().orderSource() == orderSource)
-                values.append(it.value());
-        }
+        const QList<ZTAPMPriceValue> values = priceInfo.ladder(orderSource);
         if (values.isEmpty())
             continue;
-        std::sort(values.begin(), values.end(), [](const ZTAPMPriceValue& a, const ZTAPMPriceValue& b) {
-            if (a.discountModel().value() != b.discountModel().value())
-                return a.discountModel().value() < b.discountModel().value();
-            return a.discountLevel() < b.discountLevel();
-        });
         QJsonArray ladder;
         for (const ZTAPMPriceValue& value : std::as_const(values)) {
             const bool offer = value.isOfferPriceValid();
@@ -570,39 +560,19 @@ int ZTAPMCommandLine::runPrice(const QStringList& theArguments)
     if (!product)
         return status;
 
-    const ZTAPMArticlePriceInfo priceInfo = product->priceInfo();
-    const ZTMoney billingSum(sum);
     const ZTAPMPriceKey key(orderSource, 0,
                             express ? ZTDiscountModel(ZTDiscountModelExpressFee) : ZTDiscountModel());
-    const ZTMoney amount = product->priceFor(key, count, billingSum, nullptr, nullptr);
-
-    // What each model of the article would give, in the order of the models' values.
-    QList<ZTDiscountModel> models(priceInfo.discountModels().cbegin(), priceInfo.discountModels().cend());
-    std::sort(models.begin(), models.end(),
-              [](const ZTDiscountModel& a, const ZTDiscountModel& b) { return a.value() < b.value(); });
+    const ZTAPMPriceExplanation explanation = product->explainPrice(key, count, ZTMoney(sum), nullptr);
     QJsonArray candidates;
-    for (const ZTDiscountModel& model : std::as_const(models)) {
-        if (express && model.value() != ZTDiscountModelExpressFee)
-            continue;
-        const ZTMoney candidate =
-            priceInfo.priceInModel(ZTAPMPriceKey(key, model), count, billingSum, nullptr);
-        candidates.append(QJsonObject{{QStringLiteral("model"), modelName(model)},
-                                      {QStringLiteral("amount"), amountJson(candidate)}});
-    }
-
-    ZTDiscountModel chosen;
-    if (priceInfo.transferModel() == ZTTransferModelPerBasket)
-        chosen = ZTDiscountModel(ZTDiscountModelBasketTransfer);
-    else if (express)
-        chosen = ZTDiscountModel(ZTDiscountModelExpressFee);
-    else
-        chosen = priceInfo.bestDiscountModel(key, count, billingSum, 0);
-    return report(
-        {{QStringLiteral("article"), product->articleId().id()},
-         {QStringLiteral("count"), count},
-         {QStringLiteral("source"), orderSource.toLogString()},
-         {QStringLiteral("model"), amount.value() == ZTMoney::noPrice ? QString() : modelName(chosen)},
-         {QStringLiteral("amount"), amountJson(amount)},
-         {QStringLiteral("candidates"), candidates}},
-        &writePrice);
+    for (const ZTAPMPriceExplanation::Candidate& candidate : explanation.candidates())
+        candidates.append(QJsonObject{{QStringLiteral("model"), modelName(candidate.first)},
+                                      {QStringLiteral("amount"), amountJson(candidate.second)}});
+    return report({{QStringLiteral("article"), product->articleId().id()},
+                   {QStringLiteral("count"), count},
+                   {QStringLiteral("source"), orderSource.toLogString()},
+                   {QStringLiteral("model"),
+                    explanation.chosenModel().isNull() ? QString() : modelName(explanation.chosenModel())},
+                   {QStringLiteral("amount"), amountJson(explanation.amount())},
+                   {QStringLiteral("candidates"), candidates}},
+                  &writePrice);
 }

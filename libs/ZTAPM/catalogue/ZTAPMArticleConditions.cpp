@@ -47,21 +47,37 @@ ZTAPMArticleConditions ZTAPMArticleConditions::createFromXTCI(const QDomElement&
     return result;
 }
 
+namespace {
+
+// The add-ons that a condition forbids together.
+constexpr ZTArticleClassEnum giftBoxesAndGiftServices =
+    ZTArticleClassEnum(ZTArticleClassBookGiftBox | ZTArticleClassBookGiftService |
+                       ZTArticleClassCalendarGiftBox | ZTArticleClassCalendarGiftService);
+constexpr ZTArticleClassEnum memorabiliaPocketAndSlipcase =
+    ZTArticleClassEnum(ZTArticleClassMemorabiliaPocket | ZTArticleClassSlipcase);
+constexpr ZTArticleClassEnum memorabiliaPocketAndFlyleaf =
+    ZTArticleClassEnum(ZTArticleClassMemorabiliaPocket | ZTArticleClassFlyleafAndInsideCover);
+constexpr ZTArticleClassEnum calendarStripAndGiftService =
+    ZTArticleClassEnum(ZTArticleClassCalendarStrip | ZTArticleClassCalendarGiftService);
+
+static_assert(giftBoxesAndGiftServices == Q_INT64_C(0x81c00000000), "gift boxes and gift services");
+static_assert(memorabiliaPocketAndSlipcase == Q_INT64_C(0x20000004000), "memorabilia pocket and slipcase");
+static_assert(memorabiliaPocketAndFlyleaf == Q_INT64_C(0x22000000000), "memorabilia pocket and flyleaf");
+static_assert(calendarStripAndGiftService == Q_INT64_C(0x80040000000), "calendar strip and gift service");
+
+} // namespace
+
 ZTArticleClass ZTAPMArticleConditions::articleClasses(const ZTAPMArticleConditions& theCondition)
 {
     switch (theCondition.value()) {
     case ZTAPMArticleConditionGiftBoxAndGiftServiceNotAllowed:
-        // book gift box, book gift service, calendar gift box, calendar gift service
-        return ZTArticleClass(ZTArticleClassEnum(Q_INT64_C(0x81c00000000)));
+        return ZTArticleClass(giftBoxesAndGiftServices);
     case ZTAPMArticleConditionMemorabiliaPocketAndSlipcaseNotAllowed:
-        // slipcase, memorabilia pocket
-        return ZTArticleClass(ZTArticleClassEnum(Q_INT64_C(0x20000004000)));
+        return ZTArticleClass(memorabiliaPocketAndSlipcase);
     case ZTAPMArticleConditionMemorabiliaPocketAndFlyleafNotAllowed:
-        // flyleaf and inside cover, memorabilia pocket
-        return ZTArticleClass(ZTArticleClassEnum(Q_INT64_C(0x22000000000)));
+        return ZTArticleClass(memorabiliaPocketAndFlyleaf);
     case ZTAPMArticleConditionCalendarRailAndGiftServiceNotAllowed:
-        // calendar strip, calendar gift service
-        return ZTArticleClass(ZTArticleClassEnum(Q_INT64_C(0x80040000000)));
+        return ZTArticleClass(calendarStripAndGiftService);
     default:
         return ZTArticleClass(ZTArticleClassEnum(0));
     }

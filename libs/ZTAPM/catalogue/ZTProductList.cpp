@@ -15,7 +15,9 @@ namespace {
 const ZTRegularExpression startsWithNumber(QStringLiteral("^(\\d+)"));
 
 // Classes that are sold whatever the checkers say: prints come in any size a customer orders.
-constexpr ZTArticleClassEnum alwaysValidPrints = ZTArticleClassEnum(0x38000);
+constexpr ZTArticleClassEnum alwaysValidPrints =
+    ZTArticleClassEnum(ZTArticleClassPrints | ZTArticleClassPremiumPrints | ZTArticleClassEnlargements);
+static_assert(alwaysValidPrints == 0x38000, "prints, premium prints and enlargements");
 
 } // namespace
 
