@@ -92,10 +92,12 @@ void writeArticle(QTextStream& out, int theIndex)
     for (int line = 0; line < (thePricesHeavy ? 2 : 24); ++line)
         out << "<line>KEY" << line << '=' << id % (line + 7) << "</line>";
     out << "<line>BORDER=" << theIndex % 2 << "</line></order_txt_lines>\n";
-    if (!addOn && thePricesHeavy) {
-        out << "      <further_conditions><further_condition condition=\"giftBoxAndGiftServiceNotAllowed\"/>"
-               "</further_conditions>\n";
-    } else if (!addOn) {
+    if (addOn) {
+        out << "      <linked_articles>\n        ";
+        for (int linked = theIndex - 9; linked < theIndex; ++linked)
+            out << "<linked_article id=\"" << articleId(linked) << "\"/>";
+        out << "\n      </linked_articles>\n";
+    } else if (!thePricesHeavy) {
         out << "      <further_conditions>\n"
             << "        <further_condition condition=\"giftBoxAndGiftServiceNotAllowed\"/>\n"
             << "        <further_condition condition=\"memorabiliaPocketAndSlipcaseNotAllowed\"/>\n"
@@ -111,36 +113,33 @@ void writeArticle(QTextStream& out, int theIndex)
             << " pour le test de charge : format, couverture et papier comme un vrai produit du catalogue, "
                "pour que la description ait la longueur de celle d'un vrai document.</description>\n"
             << "      </descriptions>\n";
-    } else {
-        out << "      <linked_articles>\n        ";
-        for (int linked = theIndex - 9; linked < theIndex; ++linked)
-            out << "<linked_article id=\"" << articleId(linked) << "\"/>";
-        out << "\n      </linked_articles>\n";
     }
     out << "    </" << element << ">\n";
 }
 
-// Six levels per order source, each with an offer price and transfer prices.
+// Four rows per order source: the base price with transfer prices and an offer, and three
+// discount levels.
 void writeLadder(QTextStream& out, int theIndex)
 {
     const int base = 100 + theIndex % 5000;
     const char* element = isAddOn(theIndex) ? "add_on" : "article";
-    const int quantities[] = {1, 5, 10, 25, 50, 100};
-    out << "    <" << element << " id=\"" << articleId(theIndex) << "\">\n";
-    for (const bool discount : {false, true}) {
-        out << (discount ? "      <discount_prices>\n" : "      <base_prices>\n");
-        for (const char* source :
-             {"input_source=\"0\" delivery_type=\"1\"", "input_source=\"0\" delivery_type=\"0\"",
-              "input_source=\"1\" delivery_type=\"0\""}) {
-            for (int level = discount ? 1 : 0; level < (discount ? 6 : 1); ++level)
-                out << "        <price " << source << " level=\"" << level << "\" quantity=\""
-                    << quantities[level] << "\" price=\"" << base - 5 * level << "\" non_offer_price=\""
-                    << base + 100 - 5 * level << "\" end_offer_date=\"2030-12-31T23:59:59\" "
-                    << "transfer_unit_price=\"10\" transfer_base_price=\"495\"/>\n";
-        }
-        out << (discount ? "      </discount_prices>\n" : "      </base_prices>\n");
+    const char* sources[] = {"input_source=\"0\" delivery_type=\"1\"",
+                             "input_source=\"0\" delivery_type=\"0\"",
+                             "input_source=\"1\" delivery_type=\"0\""};
+    const int quantities[] = {1, 5, 10, 25};
+    out << "    <" << element << " id=\"" << articleId(theIndex) << "\">\n      <base_prices>\n";
+    for (const char* source : sources)
+        out << "        <price " << source << " level=\"0\" quantity=\"1\" price=\"" << base
+            << "\" non_offer_price=\"" << base + 100 << "\" end_offer_date=\"2030-12-31T23:59:59\" "
+            << "transfer_unit_price=\"10\" transfer_base_price=\"495\"/>\n";
+    out << "      </base_prices>\n      <discount_prices>\n";
+    for (const char* source : sources) {
+        for (int level = 1; level < 4; ++level)
+            out << "        <price " << source << " level=\"" << level << "\" quantity=\""
+                << quantities[level] << "\" price=\"" << base - 5 * level << "\" non_offer_price=\""
+                << base + 100 - 5 * level << "\"/>\n";
     }
-    out << "    </" << element << ">\n";
+    out << "      </discount_prices>\n    </" << element << ">\n";
 }
 
 void writePrices(QTextStream& out, int theIndex)

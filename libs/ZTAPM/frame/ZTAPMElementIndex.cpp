@@ -199,6 +199,8 @@ bool ZTAPMElementIndex::scan(const QStringList& theSectionNames, const QStringLi
         }
         if (!empty)
             open.append(name);
+        else if (depth == 1)
+            rootClosed = true;
         i = tagEnd + 1;
     }
     return rootClosed && open.isEmpty();
