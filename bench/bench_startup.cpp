@@ -1,14 +1,29 @@
-// bench_startup: how long the engine's start-up takes on a key account, next to how long it takes
-// merely to parse the same documents with QDomDocument. Start-up reads the products document
-// twice (into the registries and into the definitions store); prices and delivery times are read
-// at their first question, which is timed as well.
+// bench_startup: what a user waits for when the engine starts on a key account, next to what it
+// takes merely to parse the same three documents with QDomDocument. Each measurement is a process
+// of its own, started cold: the engine's start-up plus the first price question (which loads the
+// prices) in one, the bare parse of products, prices and delivery times in the other. The two
+// alternate, so that a change in the machine's load meets both alike; the medians of wall time and
+// of peak resident memory (from the kernel's accounting of the finished child) are printed with
+// their ratio.
 //
-// usage: bench_startup DIR   (a key account, e.g. one written by generate_keyaccount)
+// usage: bench_startup [--runs N] DIR...   (key accounts, e.g. written by generate_keyaccount)
+//        bench_startup engine DIR          (one start-up, as the runner starts it)
+//        bench_startup dom DIR             (one bare parse, as the runner starts it)
+//        bench_startup reload DIR          (start-up, then a change of key account to DIR again)
+//
+// Columns: engine and DOM are the medians of the two processes' wall time and peak resident
+// memory; start and price the engine's own split of its time, in ms; reload what a change of key
+// account costs the registries, stores what reading the three stores anew costs, in ms.
 
 #include "ZTAPMDataBase.h"
 #include "ZTAPMObjects.h"
+#include "ZTAPMPriceKey.h"
 #include "ZTArticleId.h"
 #include "ZTInitializer.h"
+#include "ZTKeyAccount.h"
+#include "ZTMoney.h"
+#include "ZTOrderSource.h"
+#include "ZTProductAbstract.h"
 #include "ZTProductRegistry.h"
 #include "ZTProgramConfig.h"
 
@@ -20,6 +35,18 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <time.h>
+#include <unistd.h>
+
+extern char** environ;
 
 namespace {
 
@@ -30,26 +57,162 @@ void quietMessages(QtMsgType type, const QMessageLogContext&, const QString& mes
         std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 
-// Reading the file, building the whole tree and freeing it again, as the data base's reading of
-// the products does (the stores stream theirs); the best of three runs.
-qint64 parseMilliseconds(const QString& thePath)
+// The article whose price is asked first; the generator numbers its articles from 100000 on.
+const ZTArticleId theFirstArticle(100000);
+
+void startEngine(const QString& theDirectory)
 {
-    qint64 best = -1;
-    for (int run = 0; run < 3; ++run) {
-        QElapsedTimer timer;
-        timer.start();
-        {
-            QFile file(thePath);
-            if (!file.open(QIODevice::ReadOnly))
-                return -1;
-            QDomDocument document;
-            if (!document.setContent(&file))
-                return -1;
-        }
-        const qint64 elapsed = timer.elapsed();
-        best = best < 0 ? elapsed : std::min(best, elapsed);
+    ZTSingleton<ZTProgramConfig>::instance()->setKeyAccountDirectory(theDirectory);
+    ZTSingleton<ZTInitializer>::instance()->setupAll();
+}
+
+// One start-up and one price question; prints how long each took, for the runner's breakdown.
+int runEngine(const QString& theDirectory)
+{
+    QElapsedTimer timer;
+    timer.start();
+    startEngine(theDirectory);
+    const qint64 startUp = timer.restart();
+    const ZTProductAbstract* product =
+        ZTSingleton<ZTAPMDataBase>::instance()->productAbstract(theFirstArticle);
+    const ZTMoney price =
+        product ? product->price(ZTAPMPriceKey(ZTOrderSource::onlineMailOrder()), 1, ZTMoney(0)) : ZTMoney();
+    const qint64 firstPrice = timer.restart();
+    if (!price.isValid()) {
+        std::fprintf(stderr, "bench_startup: article %d has no price in %s\n", theFirstArticle.id(),
+                     qPrintable(theDirectory));
+        return 3;
     }
-    return best;
+    std::printf("%lld %lld\n", startUp, firstPrice);
+    return 0;
+}
+
+// What a change of key account costs once the engine runs: the key account's signal reloads the
+// registries, which keep their products; and, when the host asks for it, the stores read their
+// documents anew.
+int runReload(const QString& theDirectory)
+{
+    startEngine(theDirectory);
+    ZTSingleton<ZTAPMObjects>::instance()->priceInfo(theFirstArticle);
+    QElapsedTimer timer;
+    timer.start();
+    ZTSingleton<ZTKeyAccount>::instance()->switchTo(theDirectory);
+    const qint64 registries = timer.restart();
+    ZTSingleton<ZTAPMObjects>::instance()->updateKeyAccountData();
+    ZTSingleton<ZTAPMObjects>::instance()->priceInfo(theFirstArticle);
+    std::printf("%lld %lld\n", registries, timer.elapsed());
+    return 0;
+}
+
+// Reads each document into a whole tree and frees it again.
+int runDom(const QString& theDirectory)
+{
+    const QDir dir(theDirectory);
+    for (const char* name : {"products.xml", "prices.xml", "deliverytimes.xml"}) {
+        QFile file(dir.filePath(QLatin1String(name)));
+        QDomDocument document;
+        if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file)) {
+            std::fprintf(stderr, "bench_startup: cannot parse %s\n", qPrintable(file.fileName()));
+            return 3;
+        }
+    }
+    std::printf("0 0\n");
+    return 0;
+}
+
+struct Run
+{
+    double seconds = 0;
+    double peakMegabytes = 0;
+    long long startUp = 0; // the child's own figures, in ms
+    long long firstPrice = 0;
+    bool ok = false;
+};
+
+double now()
+{
+    timespec time{};
+    clock_gettime(CLOCK_MONOTONIC, &time);
+    return double(time.tv_sec) + double(time.tv_nsec) / 1e9;
+}
+
+// Starts this program in a mode of its own and waits for it; the peak is the child's alone.
+Run runChild(const char* theMode, const std::string& theDirectory)
+{
+    Run run;
+    char outputName[] = "/tmp/bench_startup_XXXXXX";
+    const int output = mkstemp(outputName);
+    if (output < 0)
+        return run;
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    std::string self = "/proc/self/exe";
+    char* arguments[] = {self.data(), const_cast<char*>(theMode), const_cast<char*>(theDirectory.c_str()),
+                         nullptr};
+    const double start = now();
+    pid_t child = 0;
+    const int spawned = posix_spawn(&child, "/proc/self/exe", &actions, nullptr, arguments, environ);
+    posix_spawn_file_actions_destroy(&actions);
+    if (spawned == 0) {
+        int status = 0;
+        rusage usage{};
+        if (wait4(child, &status, 0, &usage) == child) {
+            run.seconds = now() - start;
+            run.peakMegabytes = double(usage.ru_maxrss) / 1024.0; // kilobytes on Linux
+            run.ok = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        }
+    }
+    char text[64] = {};
+    if (pread(output, text, sizeof(text) - 1, 0) > 0)
+        run.ok = run.ok && std::sscanf(text, "%lld %lld", &run.startUp, &run.firstPrice) == 2;
+    close(output);
+    unlink(outputName);
+    return run;
+}
+
+template <typename Field>
+double median(const std::vector<Run>& theRuns, Field theField)
+{
+    std::vector<double> values;
+    for (const Run& run : theRuns)
+        values.push_back(double(theField(run)));
+    std::sort(values.begin(), values.end());
+    const size_t n = values.size();
+    return n % 2 ? values[n / 2] : (values[n / 2 - 1] + values[n / 2]) / 2;
+}
+
+int runBenchmark(int theRuns, const QStringList& theDirectories)
+{
+    std::printf("%d runs each, alternating, every run a process of its own; medians\n", theRuns);
+    std::printf("%-24s %8s %8s %6s %9s %9s %8s %8s %8s %8s\n", "key account", "engine s", "DOM s", "ratio",
+                "engine MB", "DOM MB", "start ms", "price ms", "reload", "stores");
+    for (const QString& directory : theDirectories) {
+        const std::string path = QFileInfo(directory).absoluteFilePath().toStdString();
+        std::vector<Run> engine, dom, reload;
+        for (int run = 0; run < theRuns; ++run) {
+            engine.push_back(runChild("engine", path));
+            dom.push_back(runChild("dom", path));
+            reload.push_back(runChild("reload", path));
+            if (!engine.back().ok || !dom.back().ok || !reload.back().ok) {
+                std::fprintf(stderr, "bench_startup: a run on %s failed\n", path.c_str());
+                return 3;
+            }
+        }
+        auto seconds = [](const Run& r) { return r.seconds; };
+        auto peak = [](const Run& r) { return r.peakMegabytes; };
+        auto startUp = [](const Run& r) { return r.startUp; };
+        auto firstPrice = [](const Run& r) { return r.firstPrice; };
+        const double engineSeconds = median(engine, seconds);
+        const double domSeconds = median(dom, seconds);
+        std::printf("%-24s %8.2f %8.2f %6.2f %9.0f %9.0f %8.0f %8.0f %8.0f %8.0f\n",
+                    qPrintable(QFileInfo(directory).fileName()), engineSeconds, domSeconds,
+                    engineSeconds / domSeconds, median(engine, peak), median(dom, peak),
+                    median(engine, startUp), median(engine, firstPrice), median(reload, startUp),
+                    median(reload, firstPrice));
+        std::fflush(stdout);
+    }
+    return 0;
 }
 
 } // namespace
@@ -57,42 +220,30 @@ qint64 parseMilliseconds(const QString& thePath)
 int main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 2 || !QFileInfo(arguments.at(1)).isDir()) {
-        std::fprintf(stderr, "usage: bench_startup DIR\n");
+    QStringList arguments = QCoreApplication::arguments();
+    arguments.removeFirst();
+    qInstallMessageHandler(quietMessages);
+
+    if (arguments.size() == 2 && QFileInfo(arguments.at(1)).isDir()) {
+        const QString directory = QFileInfo(arguments.at(1)).absoluteFilePath();
+        if (arguments.at(0) == QLatin1String("engine"))
+            return runEngine(directory);
+        if (arguments.at(0) == QLatin1String("dom"))
+            return runDom(directory);
+        if (arguments.at(0) == QLatin1String("reload"))
+            return runReload(directory);
+    }
+    int runs = 5;
+    if (arguments.size() > 1 && arguments.at(0) == QLatin1String("--runs")) {
+        runs = arguments.at(1).toInt();
+        arguments = arguments.mid(2);
+    }
+    const bool directories =
+        !arguments.isEmpty() && std::all_of(arguments.cbegin(), arguments.cend(),
+                                            [](const QString& a) { return QFileInfo(a).isDir(); });
+    if (runs < 1 || !directories) {
+        std::fprintf(stderr, "usage: bench_startup [--runs N] DIR...\n");
         return 2;
     }
-    qInstallMessageHandler(quietMessages);
-    const QDir dir(QFileInfo(arguments.at(1)).absoluteFilePath());
-
-    const qint64 parseProducts = parseMilliseconds(dir.filePath(QStringLiteral("products.xml")));
-    const qint64 parsePrices = parseMilliseconds(dir.filePath(QStringLiteral("prices.xml")));
-    const qint64 parseDeliveryTimes = parseMilliseconds(dir.filePath(QStringLiteral("deliverytimes.xml")));
-    if (parseProducts < 0 || parsePrices < 0 || parseDeliveryTimes < 0) {
-        std::fprintf(stderr, "bench_startup: %s holds no readable key account\n", qPrintable(dir.path()));
-        return 3;
-    }
-
-    ZTSingleton<ZTProgramConfig>::instance()->setKeyAccountDirectory(dir.path());
-    QElapsedTimer timer;
-    timer.start();
-    ZTSingleton<ZTInitializer>::instance()->setupAll();
-    const qint64 startUp = timer.restart();
-    // Any article will do: the first question loads the whole document.
-    const ZTArticleId someArticle(100000);
-    ZTSingleton<ZTAPMObjects>::instance()->priceInfo(someArticle);
-    const qint64 firstPrice = timer.restart();
-    ZTSingleton<ZTAPMObjects>::instance()->deliveryTimes(someArticle);
-    const qint64 firstDeliveryTime = timer.restart();
-
-    const int products = ZTSingleton<ZTAPMDataBase>::instance()->products()->productCount();
-    std::printf("key account: %s, %d products registered\n", qPrintable(dir.path()), products);
-    std::printf("%-44s %8s\n", "", "ms");
-    std::printf("%-44s %8lld\n", "QDomDocument parse of products.xml", parseProducts);
-    std::printf("%-44s %8lld\n", "engine start-up (reads products.xml twice)", startUp);
-    std::printf("%-44s %8lld\n", "QDomDocument parse of prices.xml", parsePrices);
-    std::printf("%-44s %8lld\n", "first price question (loads prices.xml)", firstPrice);
-    std::printf("%-44s %8lld\n", "QDomDocument parse of deliverytimes.xml", parseDeliveryTimes);
-    std::printf("%-44s %8lld\n", "first delivery time question", firstDeliveryTime);
-    return 0;
+    return runBenchmark(runs, arguments);
 }

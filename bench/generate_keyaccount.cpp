@@ -3,7 +3,11 @@
 // account's, with every part an article may have, so that reading them costs what a real
 // catalogue of that size costs.
 //
-// usage: generate_keyaccount DIR [ARTICLES]   (default 20000 articles)
+// Two shapes: by default the products document is the big one (about 45 MB for 20,000 articles,
+// with 13 MB of prices); with --prices-heavy the articles are lean (about 7 MB) and each carries
+// a ladder of several rows per order source (about 30 MB of prices).
+//
+// usage: generate_keyaccount DIR [ARTICLES] [--prices-heavy]   (default 20000 articles)
 
 #include <QCoreApplication>
 #include <QDir>
@@ -41,6 +45,9 @@ int articleId(int theIndex)
     return 100000 + theIndex;
 }
 
+// The shape of the key account being written.
+bool thePricesHeavy = false;
+
 void writeArticle(QTextStream& out, int theIndex)
 {
     const Kind& kind = theKinds[theIndex % (sizeof(theKinds) / sizeof(theKinds[0]))];
@@ -62,8 +69,10 @@ void writeArticle(QTextStream& out, int theIndex)
         out << "      <type arrangement=\"" << kind.arrangement << '"';
         if (*kind.cover)
             out << " cover=\"" << kind.cover << '"';
-        out << " material=\"glossy\"/>\n"
-            << "      <composition units=\"mm\">\n"
+        out << " material=\"glossy\"/>\n";
+    }
+    if (!addOn && !thePricesHeavy) {
+        out << "      <composition units=\"mm\">\n"
             << "        <page width=\"" << width << "\" height=\"" << height
             << "\" bleed_left_right=\"3\" bleed_top_bottom=\"3\" binding=\"left\"/>\n"
             << "        <cover width=\"" << 2 * width + 20 << "\" height=\"" << height + 13
@@ -80,10 +89,15 @@ void writeArticle(QTextStream& out, int theIndex)
                "pt_minimum_fontsize=\"6\"/>\n";
     }
     out << "      <order_txt_lines head=\"" << (addOn ? "[PAGES]" : kind.head) << "\">";
-    for (int line = 0; line < 24; ++line)
+    for (int line = 0; line < (thePricesHeavy ? 2 : 24); ++line)
         out << "<line>KEY" << line << '=' << id % (line + 7) << "</line>";
     out << "<line>BORDER=" << theIndex % 2 << "</line></order_txt_lines>\n";
-    if (!addOn) {
+    if (addOn) {
+        out << "      <linked_articles>\n        ";
+        for (int linked = theIndex - 9; linked < theIndex; ++linked)
+            out << "<linked_article id=\"" << articleId(linked) << "\"/>";
+        out << "\n      </linked_articles>\n";
+    } else if (!thePricesHeavy) {
         out << "      <further_conditions>\n"
             << "        <further_condition condition=\"giftBoxAndGiftServiceNotAllowed\"/>\n"
             << "        <further_condition condition=\"memorabiliaPocketAndSlipcaseNotAllowed\"/>\n"
@@ -99,17 +113,41 @@ void writeArticle(QTextStream& out, int theIndex)
             << " pour le test de charge : format, couverture et papier comme un vrai produit du catalogue, "
                "pour que la description ait la longueur de celle d'un vrai document.</description>\n"
             << "      </descriptions>\n";
-    } else {
-        out << "      <linked_articles>\n        ";
-        for (int linked = theIndex - 9; linked < theIndex; ++linked)
-            out << "<linked_article id=\"" << articleId(linked) << "\"/>";
-        out << "\n      </linked_articles>\n";
     }
     out << "    </" << element << ">\n";
 }
 
+// Four rows per order source: the base price with transfer prices and an offer, and three
+// discount levels.
+void writeLadder(QTextStream& out, int theIndex)
+{
+    const int base = 100 + theIndex % 5000;
+    const char* element = isAddOn(theIndex) ? "add_on" : "article";
+    const char* sources[] = {"input_source=\"0\" delivery_type=\"1\"",
+                             "input_source=\"0\" delivery_type=\"0\"",
+                             "input_source=\"1\" delivery_type=\"0\""};
+    const int quantities[] = {1, 5, 10, 25};
+    out << "    <" << element << " id=\"" << articleId(theIndex) << "\">\n      <base_prices>\n";
+    for (const char* source : sources)
+        out << "        <price " << source << " level=\"0\" quantity=\"1\" price=\"" << base
+            << "\" non_offer_price=\"" << base + 100 << "\" end_offer_date=\"2030-12-31T23:59:59\" "
+            << "transfer_unit_price=\"10\" transfer_base_price=\"495\"/>\n";
+    out << "      </base_prices>\n      <discount_prices>\n";
+    for (const char* source : sources) {
+        for (int level = 1; level < 4; ++level)
+            out << "        <price " << source << " level=\"" << level << "\" quantity=\""
+                << quantities[level] << "\" price=\"" << base - 5 * level << "\" non_offer_price=\""
+                << base + 100 - 5 * level << "\"/>\n";
+    }
+    out << "      </discount_prices>\n    </" << element << ">\n";
+}
+
 void writePrices(QTextStream& out, int theIndex)
 {
+    if (thePricesHeavy) {
+        writeLadder(out, theIndex);
+        return;
+    }
     const int base = 100 + theIndex % 5000;
     out << "    <" << (isAddOn(theIndex) ? "add_on" : "article") << " id=\"" << articleId(theIndex) << "\">\n"
         << "      <base_prices>\n"
@@ -187,9 +225,10 @@ bool writeDocument(const QDir& theDir, const QString& theName, int theCount,
 int main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() < 2) {
-        std::fprintf(stderr, "usage: generate_keyaccount DIR [ARTICLES]\n");
+    QStringList arguments = QCoreApplication::arguments();
+    thePricesHeavy = arguments.removeAll(QStringLiteral("--prices-heavy")) > 0;
+    if (arguments.size() < 2 || arguments.size() > 3) {
+        std::fprintf(stderr, "usage: generate_keyaccount DIR [ARTICLES] [--prices-heavy]\n");
         return 2;
     }
     const int count = arguments.size() > 2 ? arguments.at(2).toInt() : 20000;

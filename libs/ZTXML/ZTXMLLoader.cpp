@@ -62,7 +62,8 @@ QDomElement ZTXMLLoader::loadDocumentElement(const QFileInfo& theFile)
 
 bool ZTXMLLoader::forEachSectionElement(
     const QFileInfo& theFile, const QStringList& theSectionNames,
-    const std::function<void(qsizetype theSection, const QDomElement& theElement)>& theCallback)
+    const std::function<void(qsizetype theSection, const QDomElement& theElement)>& theCallback,
+    QList<bool>* theFoundSections)
 {
     QFile file;
     if (!openFile(theFile, file))
@@ -132,6 +133,8 @@ bool ZTXMLLoader::forEachSectionElement(
             break;
         }
     }
+    if (theFoundSections)
+        *theFoundSections = QList<bool>(seenSections.cbegin(), seenSections.cend());
     if (reader.hasError()) {
         warnParseError(file.fileName(), reader.lineNumber(), reader.columnNumber(), reader.errorString());
         return false;

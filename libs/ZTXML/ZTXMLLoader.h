@@ -32,9 +32,13 @@ public:
     // after the elements before it went out. Then the result is false, the callback sees
     // nothing more, and the warning is the one of loadDocument(): callers collect what they are
     // given and keep it only on true. A missing file gives false and its warning as well.
+    //
+    // theFoundSections, if given, tells afterwards for each section name whether the document
+    // has such a section, so that an empty section can be told from a missing one.
     static bool forEachSectionElement(
         const QFileInfo& theFile, const QStringList& theSectionNames,
-        const std::function<void(qsizetype theSection, const QDomElement& theElement)>& theCallback);
+        const std::function<void(qsizetype theSection, const QDomElement& theElement)>& theCallback,
+        QList<bool>* theFoundSections = nullptr);
 };
 
 #endif // ZTXMLLOADER_H

@@ -19,16 +19,25 @@ void ZTProductRegistryAbstract::readProducts(const QDomNode& theRoot)
         const QString sectionName = keyWord + QLatin1Char('s');
         const QDomElement section = theRoot.firstChildElement(sectionName);
         if (section.isNull())
-            qWarning() << "no node" << sectionName;
+            warnMissingSection(sectionName);
         for (QDomElement element = section.firstChildElement(keyWord); !element.isNull();
-             element = element.nextSiblingElement(keyWord)) {
-            if (ZTProductAbstract* known = productWithArticleID(ZTArticleId::fromIdAttribute(element))) {
-                known->update(element);
-            } else if (ZTProductAbstract* product = buildAbstractProduct(element)) {
-                registerProduct(element, product);
-            }
-        }
+             element = element.nextSiblingElement(keyWord))
+            readElement(element);
     }
+}
+
+void ZTProductRegistryAbstract::readElement(const QDomElement& theElement)
+{
+    if (ZTProductAbstract* known = productWithArticleID(ZTArticleId::fromIdAttribute(theElement))) {
+        known->update(theElement);
+    } else if (ZTProductAbstract* product = buildAbstractProduct(theElement)) {
+        registerProduct(theElement, product);
+    }
+}
+
+void ZTProductRegistryAbstract::warnMissingSection(const QString& theSectionName)
+{
+    qWarning() << "no node" << theSectionName;
 }
 
 ZTProductAbstract* ZTProductRegistryAbstract::buildAbstractProduct(const QDomElement& theElement)

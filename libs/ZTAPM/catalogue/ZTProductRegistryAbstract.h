@@ -30,6 +30,12 @@ public:
     virtual QList<QString> xmlKeyWords() const = 0;
 
     void readProducts(const QDomNode& theRoot);
+    // The reading loop one element at a time, for a reader that streams the document instead of
+    // holding it: setProductsDeprecated() first, then for each keyword of xmlKeyWords() in order
+    // warnMissingSection() if its section is missing and readElement() for each of its elements,
+    // in document order. A known id updates its product, anything else becomes a new product.
+    void readElement(const QDomElement& theElement);
+    static void warnMissingSection(const QString& theSectionName);
     ZTProductAbstract* buildAbstractProduct(const QDomElement& theElement);
     ZTShippingGroupId readShippingGroupId(const QDomElement& theElement) const;
 

@@ -8,7 +8,9 @@
 
 #include <QDomElement>
 
-ZTProductRegistryExpressFees::ZTProductRegistryExpressFees() = default;
+ZTProductRegistryExpressFees::ZTProductRegistryExpressFees()
+    : ZTProductRegistryFees(QStringLiteral("express_fee"))
+{}
 
 ZTProductRegistryExpressFees::~ZTProductRegistryExpressFees()
 {
@@ -28,11 +30,8 @@ ZTProductAbstract* ZTProductRegistryExpressFees::productWithArticleID(const ZTAr
     return nullptr;
 }
 
-void ZTProductRegistryExpressFees::registerProduct(const QDomElement& theElement,
-                                                   ZTProductAbstract* theProduct)
+void ZTProductRegistryExpressFees::enter(const QDomElement& theElement, ZTProductAbstract* theProduct)
 {
-    // A fee that a later entry or reading replaces may still be on a bill.
-    keepAlive({theProduct});
     const ZTExpressType type(theElement.attribute(QStringLiteral("express_id")));
     if (type.isNull())
         return;
@@ -43,11 +42,6 @@ void ZTProductRegistryExpressFees::setProductsDeprecated()
 {
     qDeleteAll(myProducts);
     myProducts.clear();
-}
-
-QList<QString> ZTProductRegistryExpressFees::xmlKeyWords() const
-{
-    return {QStringLiteral("express_fee")};
 }
 
 ZTProductRegistryExpressFees::ExpressTypeMap*

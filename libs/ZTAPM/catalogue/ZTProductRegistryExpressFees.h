@@ -4,7 +4,7 @@
 #include "ZTExpressType.h"
 #include "ZTExpressTypeList.h"
 #include "ZTProductList.h"
-#include "ZTProductRegistryAbstract.h"
+#include "ZTProductRegistryFees.h"
 #include "ZTShippingGroupId.h"
 
 #include <QMap>
@@ -13,7 +13,7 @@ class ZTAPMPriceKey;
 class ZTExpressKey;
 
 // Express fees by shipping group and express type. Rebuilt on every reading.
-class ZTAPM_EXPORT ZTProductRegistryExpressFees : public ZTProductRegistryAbstract
+class ZTAPM_EXPORT ZTProductRegistryExpressFees : public ZTProductRegistryFees
 {
 public:
     using ExpressTypeMap = QMap<ZTExpressType, ZTProductAbstract*>;
@@ -22,11 +22,8 @@ public:
     ~ZTProductRegistryExpressFees() override;
 
     ZTProductAbstract* productWithArticleID(const ZTArticleId& theId) const override;
-    // Only under an express type other than none; otherwise the product stays unknown.
-    void registerProduct(const QDomElement& theElement, ZTProductAbstract* theProduct) override;
     // Empties the registry; the products stay allocated for whoever still holds them.
     void setProductsDeprecated() override;
-    QList<QString> xmlKeyWords() const override;
     int productCount() const;
     // Every fee product of this registry, in key order.
     ZTProductList productList() const;
@@ -43,6 +40,11 @@ public:
     // The express types of the group whose fee under the key is above zero.
     ZTExpressTypeList findExpressTypes(const ZTShippingGroupId& theShippingGroupId,
                                        const ZTAPMPriceKey& thePriceKey) const;
+
+protected:
+    // Under the element's group and express type, if that type is not none; otherwise the
+    // product stays unknown.
+    void enter(const QDomElement& theElement, ZTProductAbstract* theProduct) override;
 
 private:
     QMap<ZTShippingGroupId, ExpressTypeMap*> myProducts;

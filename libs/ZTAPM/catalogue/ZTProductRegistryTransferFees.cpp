@@ -1,10 +1,11 @@
 #include "ZTProductRegistryTransferFees.h"
 
-#include "ZTProductAbstract.h"
-
 #include <QDomElement>
 
-ZTProductRegistryTransferFees::ZTProductRegistryTransferFees() = default;
+ZTProductRegistryTransferFees::ZTProductRegistryTransferFees()
+    : ZTProductRegistryFeeMap(QStringLiteral("transfer"))
+{}
+
 ZTProductRegistryTransferFees::~ZTProductRegistryTransferFees() = default;
 
 ZTProductAbstract* ZTProductRegistryTransferFees::productWithArticleID(const ZTArticleId& theId) const
@@ -12,30 +13,10 @@ ZTProductAbstract* ZTProductRegistryTransferFees::productWithArticleID(const ZTA
     return myProductsById.value(theId);
 }
 
-void ZTProductRegistryTransferFees::registerProduct(const QDomElement& theElement,
-                                                    ZTProductAbstract* theProduct)
-{
-    // A fee that a later entry or reading replaces may still be on a bill.
-    keepAlive({theProduct});
-    myProducts.insert(readShippingGroupId(theElement), theProduct);
-    myProductsById.insert(theProduct->articleId(), theProduct);
-}
-
 void ZTProductRegistryTransferFees::setProductsDeprecated()
 {
-    myProducts.clear();
+    ZTProductRegistryFeeMap::setProductsDeprecated();
     myProductsById.clear();
-}
-
-QList<QString> ZTProductRegistryTransferFees::xmlKeyWords() const
-{
-    return {QStringLiteral("transfer")};
-}
-
-ZTProductAbstract*
-ZTProductRegistryTransferFees::transferProduct(const ZTShippingGroupId& theShippingGroupId) const
-{
-    return myProducts.value(theShippingGroupId);
 }
 
 int ZTProductRegistryTransferFees::productCount() const
@@ -43,7 +24,19 @@ int ZTProductRegistryTransferFees::productCount() const
     return int(myProductsById.size());
 }
 
-ZTProductList ZTProductRegistryTransferFees::productList() const
+ZTProductAbstract*
+ZTProductRegistryTransferFees::transferProduct(const ZTShippingGroupId& theShippingGroupId) const
 {
-    return ZTProductList(myProducts.values());
+    return productUnder(theShippingGroupId);
+}
+
+ZTShippingGroupId ZTProductRegistryTransferFees::keyOf(const QDomElement& theElement) const
+{
+    return readShippingGroupId(theElement);
+}
+
+void ZTProductRegistryTransferFees::enter(const QDomElement& theElement, ZTProductAbstract* theProduct)
+{
+    ZTProductRegistryFeeMap::enter(theElement, theProduct);
+    myProductsById.insert(theProduct->articleId(), theProduct);
 }

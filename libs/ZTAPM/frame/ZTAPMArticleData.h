@@ -65,58 +65,102 @@ public:
     // Reads the document again. A missing or broken file leaves everything as it was.
     void load() const
     {
-        // Node names are the same for every store of one value type.
-        static const QList<QString> nodeNames = articleNodes();
-        static const QStringList sectionNames = [] {
-            QStringList names;
-            for (const QString& nodeName : nodeNames)
-                names.append(nodeName + QLatin1Char('s'));
-            return names;
-        }();
-
         const QFileInfo file = ZTResourceFile(dataType()).fileInfo(false, QString());
         if (!file.exists())
             return;
+        Filling filling(*this);
+        filling.finish(ZTXMLLoader::forEachSectionElement(
+            file, sectionNames(), [&](qsizetype theSection, const QDomElement& theElement) {
+                filling.add(theSection, theElement);
+            }));
+    }
 
-        QWriteLocker locker(&myLock);
-        // The elements go straight into a fresh hash; the old one returns if the file breaks.
-        QHash<ZTArticleId, T> previous;
-        previous.swap(myData);
-        myData.reserve(reservedEntries);
-
-        // The document is streamed, one element at a time: a full catalogue is tens of
-        // megabytes. Node names are read in list order whatever the order of the sections, so
-        // that the same id in two sections ends the same way: an element is parsed at once
-        // while every earlier section has been read and parsed, else kept until the end.
-        std::vector<bool> started(size_t(sectionNames.size()), false);
-        std::vector<QList<QDomElement>> deferred(size_t(sectionNames.size()));
-        bool deferring = false;
-        const bool complete = ZTXMLLoader::forEachSectionElement(
-            file, sectionNames, [&](qsizetype theSection, const QDomElement& theElement) {
-                if (theElement.tagName() != nodeNames.at(theSection))
-                    return;
-                const size_t section = size_t(theSection);
-                started[section] = true;
-                bool due = true;
-                for (size_t earlier = 0; earlier < section && due; ++earlier)
-                    due = started[earlier] && deferred[earlier].isEmpty();
-                if (due) {
-                    parseElement(theElement);
-                } else {
-                    deferred[section].append(theElement);
-                    deferring = true;
-                }
-            });
-        if (!complete) {
-            myData.swap(previous);
-            return;
+    // One reading of the store's document, made by the store itself or by someone who reads the
+    // same document for other ends as well, so that a big document is read once. It holds the
+    // write lock from construction to its end: readers wait, as they wait for load(). Elements
+    // come in with the index of their section in sectionNames(); a broken reading (finish(false),
+    // or no finish() at all) leaves the store as it was.
+    class Filling
+    {
+    public:
+        explicit Filling(const ZTAPMArticleData& theStore)
+            : myStore(theStore)
+            , myLocker(&theStore.myLock)
+            , myStarted(sectionCount())
+            , myDeferred(sectionCount())
+        {
+            // The elements go straight into a fresh hash; the old one returns if the file breaks.
+            myPrevious.swap(myStore.myData);
+            myStore.myData.reserve(reservedEntries);
         }
-        if (deferring) {
-            for (const QList<QDomElement>& elements : deferred) {
+        ~Filling()
+        {
+            if (!myFinished)
+                myStore.myData.swap(myPrevious);
+        }
+        Q_DISABLE_COPY(Filling)
+
+        // Node names are read in list order whatever the order of the sections, so that the same
+        // id in two sections ends the same way: an element is parsed at once while every earlier
+        // section has been read and parsed, else kept until the end.
+        void add(qsizetype theSection, const QDomElement& theElement)
+        {
+            if (theElement.tagName() != myStore.nodeNames().at(theSection))
+                return;
+            const size_t section = size_t(theSection);
+            myStarted[section] = true;
+            bool due = true;
+            for (size_t earlier = 0; earlier < section && due; ++earlier)
+                due = myStarted[earlier] && myDeferred[earlier].isEmpty();
+            if (due)
+                myStore.parseElement(theElement);
+            else
+                myDeferred[section].append(theElement);
+        }
+
+        // theComplete: the document was read to its end.
+        void finish(bool theComplete)
+        {
+            if (!theComplete)
+                return;
+            for (const QList<QDomElement>& elements : myDeferred) {
                 for (const QDomElement& element : elements)
-                    parseElement(element);
+                    myStore.parseElement(element);
             }
+            myFinished = true;
         }
+
+    private:
+        size_t sectionCount() const { return size_t(myStore.sectionNames().size()); }
+
+        const ZTAPMArticleData& myStore;
+        QWriteLocker myLocker;
+        QHash<ZTArticleId, T> myPrevious;
+        std::vector<bool> myStarted;
+        std::vector<QList<QDomElement>> myDeferred;
+        bool myFinished = false;
+    };
+
+    // The sections of the document, one per node name with an "s" behind it, in reading order.
+    const QStringList& sectionNames() const
+    {
+        static const QStringList names = [this] {
+            QStringList result;
+            for (const QString& nodeName : nodeNames())
+                result.append(nodeName + QLatin1Char('s'));
+            return result;
+        }();
+        return names;
+    }
+
+    // theFile is the store's own document and the store holds nothing: a reading of theFile may
+    // fill it instead of the store reading the file itself at its first question.
+    bool wantsReadingOf(const QFileInfo& theFile) const
+    {
+        QReadLocker reader(&myLock);
+        return myData.isEmpty() &&
+               theFile.absoluteFilePath() ==
+                   ZTResourceFile(dataType()).fileInfo(false, QString()).absoluteFilePath();
     }
 
     // The value of an id, or a default-made T. An empty store loads first.
@@ -138,10 +182,18 @@ protected:
     // Only under the lock.
     bool containsUnlocked(const ZTArticleId& theId) const { return myData.contains(theId); }
     T valueUnlocked(const ZTArticleId& theId) const { return valueOf(theId); }
+    void clearUnlocked() const { myData.clear(); }
 
     QReadWriteLock& lock() const { return myLock; }
 
 private:
+    // Node names are the same for every store of one value type.
+    const QList<QString>& nodeNames() const
+    {
+        static const QList<QString> names = articleNodes();
+        return names;
+    }
+
     T valueOf(const ZTArticleId& theId) const
     {
         const auto found = myData.constFind(theId);

@@ -1,6 +1,8 @@
 #include "ZTAPMDataBase.h"
 
+#include "ZTAPMObjects.h"
 #include "ZTAPMPriceKey.h"
+#include "ZTAPMProductsReading.h"
 #include "ZTArticleId.h"
 #include "ZTDiscountLimitListKey.h"
 #include "ZTDiscountModel.h"
@@ -373,17 +375,35 @@ void ZTAPMDataBase::loadAllProductsFrom(const QFileInfo& theFile)
 {
     if (ZTSingleton<ZTProgramConfig>::instance()->programID() == programIdWithoutCatalogue)
         return;
-    updateProducts(ZTXMLLoader::loadDocumentElement(theFile));
+
+    // One streamed reading for the registries and, while it has not read the document itself,
+    // for the definitions store.
+    const QList<ZTProductRegistryAbstract*> registryList = registries();
+    QStringList keyWords;
+    for (const ZTProductRegistryAbstract* registry : registryList)
+        keyWords += registry->xmlKeyWords();
+    const ZTAPMArticleDefinitions& definitions = ZTSingleton<ZTAPMObjects>::instance()->articleDefinitions();
+    ZTAPMProductsReading reading(keyWords);
+    // The store's lock is given up before the data base's is taken, which comes first.
+    if (!reading.read(theFile, definitions.wantsReadingOf(theFile) ? &definitions : nullptr))
+        return;
+    updateRegistries([&reading](ZTProductRegistryAbstract* theRegistry) { reading.readInto(theRegistry); });
 }
 
 void ZTAPMDataBase::updateProducts(const QDomNode& theRoot)
 {
+    if (theRoot.isNull())
+        return;
+    updateRegistries(
+        [&theRoot](ZTProductRegistryAbstract* theRegistry) { theRegistry->readProducts(theRoot); });
+}
+
+void ZTAPMDataBase::updateRegistries(const std::function<void(ZTProductRegistryAbstract*)>& theReading)
+{
     {
         DataBaseLocker locker(myLock);
-        if (theRoot.isNull())
-            return;
         for (ZTProductRegistryAbstract* registry : registries())
-            registry->readProducts(theRoot);
+            theReading(registry);
         ZTSingleton<ZTPageOrganizationManager>::instance()->clearCache();
         ZTSingleton<ZTProductCheckerRegistry>::instance()->clearCaches();
         ++myUpdateCount;

@@ -15,6 +15,7 @@
 #include <QObject>
 
 #include <atomic>
+#include <functional>
 
 class QDomNode;
 class QFileInfo;
@@ -116,7 +117,10 @@ public:
     ZTExpressTypeList supportedExpressTypes(const ZTShippingGroupId& theShippingGroupId,
                                             const ZTAPMPriceKey& thePriceKey) const;
 
+    // Streams the file: the registries, and the definitions store while it is empty, take its
+    // elements. A missing or broken file changes nothing and emits nothing.
     void loadAllProductsFrom(const QFileInfo& theFile);
+    // The same for a host that holds the document; the stores read theirs themselves.
     void updateProducts(const QDomNode& theRoot);
 
     // Set when data arrived that only a restart can apply; the host decides what to do.
@@ -136,6 +140,10 @@ private:
     friend class ZTSingleton<ZTAPMDataBase>;
     ZTAPMDataBase();
     ~ZTAPMDataBase() override;
+
+    // Under the lock, theReading for each registry in reading order, then the caches of the
+    // host's managers are cleared; the signal goes out after the lock.
+    void updateRegistries(const std::function<void(ZTProductRegistryAbstract*)>& theReading);
 
     QRecursiveMutex* const myLock;
     std::atomic<bool> myRestartFlag{false};
