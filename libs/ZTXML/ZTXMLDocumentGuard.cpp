@@ -265,16 +265,27 @@ bool ZTXMLDocumentGuard::check(QXmlStreamReader& theReader)
         --myDepth;
         break;
     case QXmlStreamReader::DTD:
-        // The whole-document parse refuses it there; the stream refuses it the same way.
+        // The whole-document parse refuses these; the stream refuses them the same way.
         if (myRootSeen) {
             theReader.raiseError(QStringLiteral("document type declaration after the root element began"));
             return false;
         }
+        if (myDoctypeSeen) {
+            theReader.raiseError(QStringLiteral("more than one document type declaration"));
+            return false;
+        }
+        myDoctypeSeen = true;
         break;
     default:
         break;
     }
     return true;
+}
+
+bool ZTXMLDocumentGuard::failed(const QXmlStreamReader& theReader) const
+{
+    // A limit broken after the root element ends leaves the reader content with what it had.
+    return theReader.hasError() || myDevice->breached();
 }
 
 QString ZTXMLDocumentGuard::errorString(const QXmlStreamReader& theReader) const

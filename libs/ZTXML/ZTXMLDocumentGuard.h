@@ -39,8 +39,10 @@ public:
     // raised on theReader, which ends reading there.
     bool check(QXmlStreamReader& theReader);
 
-    // The error that ended reading, after theReader stopped with one: the guard's own when the
-    // device refused to read on, else the reader's.
+    // After reading: whether the document is refused, by the reader or by a limit.
+    bool failed(const QXmlStreamReader& theReader) const;
+    // Why, when failed(): the guard's own reason when the device refused to read on, else the
+    // reader's.
     QString errorString(const QXmlStreamReader& theReader) const;
     qint64 errorLine(const QXmlStreamReader& theReader) const;
     qint64 errorColumn(const QXmlStreamReader& theReader) const;
@@ -50,6 +52,7 @@ private:
     std::unique_ptr<Device> myDevice;
     int myDepth = 0;
     bool myRootSeen = false;
+    bool myDoctypeSeen = false;
 };
 
 #endif // ZTXMLDOCUMENTGUARD_H

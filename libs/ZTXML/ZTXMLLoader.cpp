@@ -55,7 +55,7 @@ QDomDocument ZTXMLLoader::loadDocument(const QFileInfo& theFile)
             reader.readNext();
             guard.check(reader);
         }
-        if (reader.hasError()) {
+        if (guard.failed(reader)) {
             warnParseError(file.fileName(), guard.errorLine(reader), guard.errorColumn(reader),
                            guard.errorString(reader));
             return QDomDocument();
@@ -158,7 +158,7 @@ bool ZTXMLLoader::forEachSectionElement(
             break;
         }
     }
-    if (reader.hasError()) {
+    if (guard.failed(reader)) {
         warnParseError(file.fileName(), guard.errorLine(reader), guard.errorColumn(reader),
                        guard.errorString(reader));
         return false;
