@@ -65,11 +65,11 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("document");
         QTest::addColumn<QString>("refusal"); // empty: accepted
 
-        const auto nested = [](int theDepth, const QByteArray& theInner = QByteArray()) {
+        const auto nested = [](int theDepth, const QByteArray& theInner = QByteArray()) -> QByteArray {
             return "<root><articles>" + QByteArray("<a>").repeated(theDepth - 2) + theInner +
                    QByteArray("</a>").repeated(theDepth - 2) + "</articles></root>";
         };
-        const auto attributes = [](int theCount, const QByteArray& theTag = "article") {
+        const auto attributes = [](int theCount, const QByteArray& theTag = "article") -> QByteArray {
             QByteArray tag = "<" + theTag;
             for (int i = 0; i < theCount; ++i)
                 tag += " a" + QByteArray::number(i) + "=\"" + QByteArray::number(i) + "\"";
@@ -109,6 +109,11 @@ private Q_SLOTS:
             << QByteArray("<root><!DOCTYPE root><articles/></root>") << doctype;
         QTest::newRow("DOCTYPE after the root")
             << QByteArray("<root><articles/></root><!DOCTYPE root>") << doctype;
+        QTest::newRow("two DOCTYPEs") << QByteArray("<!DOCTYPE root><!DOCTYPE root><root><articles/></root>")
+                                      << QStringLiteral("more than one document type declaration");
+        // attributes() with its root cut off: the element stands after the root.
+        QTest::newRow("too many attributes after the root")
+            << "<root><articles/></root>" + attributes(300).mid(16) << tooWide;
     }
 
     void bothReadersApplyTheLimits()
