@@ -1,6 +1,8 @@
 #include "ZTDistance.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 ZTDistance::ZTDistance() = default;
 
@@ -34,9 +36,27 @@ double ZTDistance::value(const ZTDistanceUnit& theUnit) const
     return myPixels / theUnit.pixelsPerUnit();
 }
 
+namespace {
+
+// Clamped first: a double beyond the int range has no int value, and converting it is undefined.
+int clampedToInt(double thePixels)
+{
+    if (std::isnan(thePixels))
+        return 0;
+    return int(std::clamp(thePixels, double(std::numeric_limits<int>::min()),
+                          double(std::numeric_limits<int>::max())));
+}
+
+} // namespace
+
 int ZTDistance::roundedPixels() const
 {
-    return int(std::lround(myPixels));
+    return clampedToInt(std::round(myPixels));
+}
+
+int ZTDistance::truncatedPixels() const
+{
+    return clampedToInt(std::trunc(myPixels));
 }
 
 void ZTDistance::setValue(double theValue, const ZTDistanceUnit& theUnit)

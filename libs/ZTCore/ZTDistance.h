@@ -13,6 +13,10 @@ class ZTCORE_EXPORT ZTDistance
 {
 public:
     static constexpr double pixelsPerMillimetre = 10.0;
+    // The longest length a document may give, either way: 1 km. Sizes are added (a page and its
+    // strips on both sides) and scaled to print resolutions in int arithmetic, so that single
+    // lengths must stay far below the int range; ZTXMLParser::readDistance refuses longer ones.
+    static constexpr double maxPixels = 1000.0 * 1000.0 * pixelsPerMillimetre;
 
     ZTDistance();
     // theValue in theUnit; the unit is converted away at once.
@@ -28,8 +32,11 @@ public:
     // The length in theUnit.
     virtual double value(const ZTDistanceUnit& theUnit) const;
     double pixels() const { return myPixels; }
-    // The base value rounded to whole pixels, halves away from zero.
+    // The base value rounded to whole pixels, halves away from zero; beyond the int range the
+    // nearest end of it.
     int roundedPixels() const;
+    // The base value cut to whole pixels, towards zero; beyond the int range the nearest end.
+    int truncatedPixels() const;
     void setValue(double theValue, const ZTDistanceUnit& theUnit);
 
     virtual bool operator==(const ZTDistance& other) const;

@@ -1,5 +1,7 @@
 #include "ZTXMLLoader.h"
 
+#include "ZTXMLDocumentGuard.h"
+
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -43,6 +45,26 @@ QDomDocument ZTXMLLoader::loadDocument(const QFileInfo& theFile)
     QFile file;
     if (!openFile(theFile, file))
         return QDomDocument();
+    // The DOM takes time quadratic in the depth of the document, so the limits are checked on a
+    // reading of its own first, in time linear in the file.
+    {
+        ZTXMLDocumentGuard guard(&file);
+        QXmlStreamReader reader(guard.device());
+        reader.setNamespaceProcessing(false);
+        while (!reader.atEnd()) {
+            reader.readNext();
+            guard.check(reader);
+        }
+        if (guard.failed(reader)) {
+            warnParseError(file.fileName(), guard.errorLine(reader), guard.errorColumn(reader),
+                           guard.errorString(reader));
+            return QDomDocument();
+        }
+    }
+    if (!file.seek(0)) {
+        warnParseError(file.fileName(), 0, 0, file.errorString());
+        return QDomDocument();
+    }
     QDomDocument document;
     QString message;
     int line = 0;
@@ -69,7 +91,8 @@ bool ZTXMLLoader::forEachSectionElement(
     if (!openFile(theFile, file))
         return false;
 
-    QXmlStreamReader reader(&file);
+    ZTXMLDocumentGuard guard(&file);
+    QXmlStreamReader reader(guard.device());
     reader.setNamespaceProcessing(false);
     std::vector<bool> seenSections(size_t(theSectionNames.size()), false);
     qsizetype section = -1; // the wanted section being read, or -1
@@ -78,7 +101,10 @@ bool ZTXMLLoader::forEachSectionElement(
     QDomNode current;       // innermost open node of that element
 
     while (!reader.atEnd()) {
-        switch (reader.readNext()) {
+        reader.readNext();
+        if (!guard.check(reader))
+            break;
+        switch (reader.tokenType()) {
         case QXmlStreamReader::StartElement: {
             ++depth;
             if (depth == 2) {
@@ -135,8 +161,9 @@ bool ZTXMLLoader::forEachSectionElement(
     }
     if (theFoundSections)
         *theFoundSections = QList<bool>(seenSections.cbegin(), seenSections.cend());
-    if (reader.hasError()) {
-        warnParseError(file.fileName(), reader.lineNumber(), reader.columnNumber(), reader.errorString());
+    if (guard.failed(reader)) {
+        warnParseError(file.fileName(), guard.errorLine(reader), guard.errorColumn(reader),
+                       guard.errorString(reader));
         return false;
     }
     return true;

@@ -11,9 +11,10 @@
 
 class QFileInfo;
 
-// Reads a whole XML file into a DOM. A file that is missing, unreadable or not well-formed gives
-// a null document and exactly one warning that names the file (and for a parse error the line
-// and column), so callers only test isNull() and never report again.
+// Reads a whole XML file into a DOM. A file that is missing, unreadable or not well-formed, or
+// that breaks the limits of ZTXMLDocumentGuard, gives a null document and exactly one warning
+// that names the file (and for a parse error the line and column), so callers only test isNull()
+// and never report again. Both readers accept and refuse the same files.
 class ZTXML_EXPORT ZTXMLLoader
 {
 public:

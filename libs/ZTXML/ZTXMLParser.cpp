@@ -84,9 +84,13 @@ ZTDistance ZTXMLParser::readDistance(const QDomElement& theElement, const QStrin
         text.replace(QLatin1Char(','), QLatin1Char('.'));
     bool ok = false;
     const double value = text.toDouble(&ok);
-    if (!ok || !std::isfinite(value))
+    if (!ok)
         return ZTDistance(theDefault, theUnit);
-    return ZTDistance(value, theUnit);
+    const ZTDistance distance(value, theUnit);
+    // Also refuses infinities and what overflows on the way into pixels.
+    if (!(std::abs(distance.pixels()) <= ZTDistance::maxPixels))
+        return ZTDistance(theDefault, theUnit);
+    return distance;
 }
 
 QString ZTXMLParser::text(const QDomNode& theNode, const QString& theChildName, const QString& theDefault)

@@ -38,7 +38,8 @@ public:
                                        Qt::DateFormat theFormat = Qt::ISODate,
                                        const QDateTime& theDefault = QDateTime());
     // A length: the attribute's decimal number (a dot or a single comma as decimal separator)
-    // in theUnit, or theDefault in theUnit when missing or malformed.
+    // in theUnit, or theDefault in theUnit when missing or malformed. A length longer than
+    // ZTDistance::maxPixels either way counts as malformed.
     static ZTDistance readDistance(const QDomElement& theElement, const QString& theName, double theDefault,
                                    const ZTDistanceUnit& theUnit);
 

@@ -1,7 +1,25 @@
 #include "ZTXMLLoader.h"
 
+#include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 #include <QTest>
+
+namespace {
+
+QByteArray toUtf16(const QByteArray& theUtf8)
+{
+    // With the byte order mark, as an editor writes it.
+    const QString text = QChar(QChar::ByteOrderMark) + QString::fromUtf8(theUtf8);
+    QByteArray result;
+    for (const QChar unit : text) {
+        result.append(char(unit.unicode() & 0xff));
+        result.append(char(unit.unicode() >> 8));
+    }
+    return result;
+}
+
+} // namespace
 
 class tst_ZTXMLLoader : public QObject
 {
@@ -38,6 +56,89 @@ private Q_SLOTS:
         QVERIFY(ZTXMLLoader::loadDocumentElement(QFileInfo(path)).isNull());
         QTest::ignoreMessage(QtWarningMsg, "cannot load XML: no file given");
         QVERIFY(ZTXMLLoader::loadDocument(QFileInfo()).isNull());
+    }
+
+    // Both readers accept and refuse the same documents, each refusal with one warning, and the
+    // limits on depth and attributes hold however the document is written.
+    void bothReadersApplyTheLimits_data()
+    {
+        QTest::addColumn<QByteArray>("document");
+        QTest::addColumn<QString>("refusal"); // empty: accepted
+
+        const auto nested = [](int theDepth, const QByteArray& theInner = QByteArray()) -> QByteArray {
+            return "<root><articles>" + QByteArray("<a>").repeated(theDepth - 2) + theInner +
+                   QByteArray("</a>").repeated(theDepth - 2) + "</articles></root>";
+        };
+        const auto attributes = [](int theCount, const QByteArray& theTag = "article") -> QByteArray {
+            QByteArray tag = "<" + theTag;
+            for (int i = 0; i < theCount; ++i)
+                tag += " a" + QByteArray::number(i) + "=\"" + QByteArray::number(i) + "\"";
+            return "<root><articles>" + tag + "/></articles></root>";
+        };
+        const QString tooDeep = QStringLiteral("elements nested deeper than 64 levels");
+        const QString tooWide = QStringLiteral("an element with more than 256 attributes");
+        const QString doctype = QStringLiteral("document type declaration after the root element began");
+
+        QTest::newRow("64 levels") << nested(64) << QString();
+        QTest::newRow("65 levels") << nested(65) << tooDeep;
+        QTest::newRow("100000 levels") << nested(100000) << tooDeep;
+        QTest::newRow("256 attributes") << attributes(256) << QString();
+        QTest::newRow("257 attributes") << attributes(257) << tooWide;
+        QTest::newRow("20000 attributes") << attributes(20000) << tooWide;
+        QTest::newRow("attributes deep inside a skipped section")
+            << "<root><other><x><y>" + attributes(300) + "</y></x></other><articles/></root>" << tooWide;
+
+        // What only looks like attributes is not counted.
+        const QByteArray equals = QByteArray("=").repeated(400);
+        QTest::newRow("= in values, comments, CDATA, text, declarations")
+            << "<?xml version=\"1.0\"?><!-- " + equals + " -->\n<!DOCTYPE root [ <!-- ' --> <!ENTITY e \"" +
+                   equals + "'>\"> <?pi " + equals + "?> ]><root><articles><article id=\"" + equals +
+                   "\" b='" + equals + "'>" + equals + "<![CDATA[<x " + equals + "]]><!-- <x " + equals +
+                   " --></article></articles></root>"
+            << QString();
+        QTest::newRow("UTF-16, 257 attributes") << toUtf16(attributes(257)) << tooWide;
+        QTest::newRow("UTF-16, 256 attributes") << toUtf16(attributes(256)) << QString();
+
+        // Elements that come from an entity count as well.
+        QTest::newRow("depth through an entity")
+            << "<!DOCTYPE root [<!ENTITY e \"" + QByteArray("<a>").repeated(40) +
+                   QByteArray("</a>").repeated(40) + "\">]>" + nested(30, "&e;")
+            << tooDeep;
+
+        QTest::newRow("DOCTYPE in the root")
+            << QByteArray("<root><!DOCTYPE root><articles/></root>") << doctype;
+        QTest::newRow("DOCTYPE after the root")
+            << QByteArray("<root><articles/></root><!DOCTYPE root>") << doctype;
+        QTest::newRow("two DOCTYPEs") << QByteArray("<!DOCTYPE root><!DOCTYPE root><root><articles/></root>")
+                                      << QStringLiteral("more than one document type declaration");
+        // attributes() with its root cut off: the element stands after the root.
+        QTest::newRow("too many attributes after the root")
+            << "<root><articles/></root>" + attributes(300).mid(16) << tooWide;
+    }
+
+    void bothReadersApplyTheLimits()
+    {
+        QFETCH(QByteArray, document);
+        QFETCH(QString, refusal);
+        QTemporaryDir directory;
+        QFile file(directory.filePath(QStringLiteral("document.xml")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(document);
+        file.close();
+        const QFileInfo info(file.fileName());
+
+        const QRegularExpression warning(
+            QStringLiteral("^XML error in .*document\\.xml at line \\d+, column \\d+: ") +
+            QRegularExpression::escape(refusal) + QLatin1Char('$'));
+        if (!refusal.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, warning);
+        QCOMPARE(ZTXMLLoader::loadDocument(info).isNull(), !refusal.isEmpty());
+
+        if (!refusal.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, warning);
+        const bool complete = ZTXMLLoader::forEachSectionElement(info, {QStringLiteral("articles")},
+                                                                 [](qsizetype, const QDomElement&) {});
+        QCOMPARE(complete, refusal.isEmpty());
     }
 };
 

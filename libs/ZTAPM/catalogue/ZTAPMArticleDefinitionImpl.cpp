@@ -6,6 +6,7 @@
 #include "ZTPriceClassSet.h"
 #include "ZTXMLParser.h"
 
+#include <QDebug>
 #include <QDomElement>
 
 namespace {
@@ -90,6 +91,17 @@ ZTAPMArticleDefinitionImpl::ZTAPMArticleDefinitionImpl(const QDomElement& theEle
 
     myArticleClass = detectArticleClass(theElement.nodeName(), materialType, myCoverType);
 
+    // One warning for all sizes of the article; a bad length reads as 0.
+    QStringList badLengths;
+    for (const QDomElement& sized : {page, cover, panorama}) {
+        for (const QString& length : ZTPageSizeData::badLengths(sized, unit))
+            badLengths.append(sized.tagName() + QLatin1Char(' ') + length);
+    }
+    if (!badLengths.isEmpty()) {
+        qWarning().noquote() << QStringLiteral("sizes of article %1: no length of at most 1 km: %2")
+                                    .arg(myArticleId.id())
+                                    .arg(badLengths.join(QStringLiteral(", ")));
+    }
     myPageSize = ZTPageSizeData(page, unit, myArticleClass, ZTPageSizeData());
     myCoverSize = ZTPageSizeData(cover, unit, myArticleClass, myPageSize);
     myCoverSize.reducePageSize(mySpine.coverReduceSize());
@@ -170,7 +182,8 @@ QSize ZTAPMArticleDefinitionImpl::pageSize(const ZTPageSizeKey& theKey) const
 {
     const qint32 type = theKey.pageType().value();
     if (type & pageTypeAllSpines) {
-        const int spineWidth = int(mySpine.spineWidth(unsigned(theKey.pageCount())).pixels());
+        // Cut, not rounded; a width beyond the int range of a size ends at its edge.
+        const int spineWidth = mySpine.spineWidth(unsigned(theKey.pageCount())).truncatedPixels();
         return QSize(spineWidth, myCoverSize.pageSizeInPixel().height());
     }
     if (type & pageTypeAllCovers)

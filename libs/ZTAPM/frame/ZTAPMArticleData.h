@@ -62,7 +62,9 @@ public:
     // Makes a value of one element and stores it through insert(); the result is not looked at.
     virtual bool parseElement(const QDomElement& theElement) const = 0;
 
-    // Reads the document again. A missing or broken file leaves everything as it was.
+    // Reads the document again. A missing or broken file leaves everything as it was. A reading
+    // counts whatever it brought, so that a document without rows, or a broken one, is read and
+    // warned about once, not at every question; the next reading is the host's call.
     void load() const
     {
         const QFileInfo file = ZTResourceFile(dataType()).fileInfo(false, QString());
@@ -89,6 +91,8 @@ public:
             , myStarted(sectionCount())
             , myDeferred(sectionCount())
         {
+            // A reading counts whatever it brings, so that a broken document is not read again.
+            myStore.myLoaded = true;
             // The elements go straight into a fresh hash; the old one returns if the file breaks.
             myPrevious.swap(myStore.myData);
             myStore.myData.reserve(reservedEntries);
@@ -158,22 +162,23 @@ public:
     bool wantsReadingOf(const QFileInfo& theFile) const
     {
         QReadLocker reader(&myLock);
-        return myData.isEmpty() &&
+        return !myLoaded &&
                theFile.absoluteFilePath() ==
                    ZTResourceFile(dataType()).fileInfo(false, QString()).absoluteFilePath();
     }
 
-    // The value of an id, or a default-made T. An empty store loads first.
+    // The value of an id, or a default-made T. A store that has not read its document yet reads
+    // it first; one whose file is missing looks for it again at the next question.
     T data(const ZTArticleId& theId) const
     {
         {
             QReadLocker reader(&myLock);
-            if (!myData.isEmpty())
+            if (myLoaded)
                 return valueOf(theId);
         }
         QWriteLocker writer(&myLock);
         // Another thread may have loaded between the two locks.
-        if (myData.isEmpty())
+        if (!myLoaded)
             load();
         return valueOf(theId);
     }
@@ -202,6 +207,8 @@ private:
 
     mutable QHash<ZTArticleId, T> myData;
     mutable QReadWriteLock myLock{QReadWriteLock::Recursive};
+    // A file was read, well or not: an empty hash is then the document's answer.
+    mutable bool myLoaded = false;
 };
 
 #endif // ZTAPMARTICLEDATA_H

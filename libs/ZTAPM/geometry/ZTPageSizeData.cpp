@@ -162,6 +162,31 @@ bool ZTPageSizeData::printSizeIs3By4() const
     return std::abs(ratio - 3.0 / 2.0) > std::abs(ratio - 4.0 / 3.0);
 }
 
+QStringList ZTPageSizeData::badLengths(const QDomElement& theElement, const ZTDistanceUnit& theUnit)
+{
+    static const QStringList names{
+        QStringLiteral("extra_width_left_right"),
+        QStringLiteral("extra_height_top_bottom"),
+        QStringLiteral("width"),
+        QStringLiteral("height"),
+        QStringLiteral("bleed_left_right"),
+        QStringLiteral("bleed_top_bottom"),
+        QStringLiteral("max_width"),
+        QStringLiteral("frame_size_width"),
+        QStringLiteral("pano_16_to_9_width"),
+        QStringLiteral("base_width"),
+        QStringLiteral("wing_width"),
+    };
+    QStringList result;
+    for (const QString& name : names) {
+        // The parser gives its default for a bad value without a word; two defaults tell.
+        if (theElement.hasAttribute(name) && ZTXMLParser::readDistance(theElement, name, 0.0, theUnit) !=
+                                                 ZTXMLParser::readDistance(theElement, name, -1.0, theUnit))
+            result.append(QStringLiteral("%1=\"%2\"").arg(name, theElement.attribute(name)));
+    }
+    return result;
+}
+
 int ZTPageSizeData::readPixels(const QDomElement& theElement, const QString& theName,
                                const ZTDistanceUnit& theUnit, double theDefault)
 {

@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QSet>
 #include <QSize>
+#include <QStringList>
 
 #include <optional>
 
@@ -61,6 +62,11 @@ public:
     // Which of 2:3 and 3:4 the size is nearer to; a tie counts as 2:3.
     bool printSizeIs2By3() const;
     bool printSizeIs3By4() const;
+
+    // The length attributes of a size element that are there but hold no length, or one longer
+    // than ZTDistance::maxPixels, each as name="value". Such a length reads as 0, like any
+    // malformed one; the reader of the article reports them.
+    static QStringList badLengths(const QDomElement& theElement, const ZTDistanceUnit& theUnit);
 
 protected:
     static int readPixels(const QDomElement& theElement, const QString& theName,

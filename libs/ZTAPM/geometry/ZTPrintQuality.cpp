@@ -4,7 +4,9 @@
 
 #include <QDomElement>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 constexpr double mmPerInch = 25.4;
@@ -77,8 +79,13 @@ int ZTPrintQuality::qualityScaleForPixelPerMM(double thePixelPerMM) const
 QSize ZTPrintQuality::printSizeInPixel(const QSize& theSizeInMM) const
 {
     const double factor = double(myPrintDPI) / mmPerInch;
-    return QSize(int(std::round(theSizeInMM.width() * factor)),
-                 int(std::round(theSizeInMM.height() * factor)));
+    // A resolution from the document may be absurd; the size then ends at the edge of the int
+    // range instead of converting a double that no int holds.
+    const auto pixels = [factor](int theMillimetres) {
+        return int(std::clamp(std::round(theMillimetres * factor), double(std::numeric_limits<int>::min()),
+                              double(std::numeric_limits<int>::max())));
+    };
+    return QSize(pixels(theSizeInMM.width()), pixels(theSizeInMM.height()));
 }
 
 ZTPrintQuality ZTPrintQuality::createFromXTCI(const QDomElement& theElement)

@@ -342,6 +342,69 @@ private Q_SLOTS:
         QCOMPARE(bare.spaceMagnitude(), ZTSpaceMagnitude(ZTSpaceMagnitudeNone));
     }
 
+    // A length that no int pixel size holds is refused like a malformed one: it reads as 0, and
+    // the article warns once for all its sizes. Without the refusal the sums below overflow.
+    void extremeLengths_data()
+    {
+        QTest::addColumn<QString>("from");
+        QTest::addColumn<QString>("to");
+        QTest::addColumn<QString>("warning");
+        QTest::addColumn<QSize>("page");
+        QTest::addColumn<QSize>("cover");
+        QTest::addColumn<int>("spine");
+
+        const QString sizes = QStringLiteral("sizes of article 1001: no length of at most 1 km: ");
+        QTest::newRow("strip of 2^30 pixels")
+            << QStringLiteral(R"(extra_width_left_right="15")")
+            << QStringLiteral(R"(extra_width_left_right="107374182.4")")
+            << sizes + QStringLiteral(R"(cover extra_width_left_right="107374182.4")") << QSize(2100, 2970)
+            << QSize(4300, 3400) << 81;
+        QTest::newRow("width of the int maximum")
+            << QStringLiteral(R"(<page width="210")") << QStringLiteral(R"(<page width="214748364.7")")
+            << sizes + QStringLiteral(R"(page width="214748364.7")") << QSize(0, 2970) << QSize(4600, 3400)
+            << 81;
+        QTest::newRow("negative, and bad twice")
+            << QStringLiteral(R"(wing_width="210")")
+            << QStringLiteral(R"(wing_width="-1e12" max_width="1e400")")
+            << sizes + QStringLiteral(R"(panorama_page max_width="1e400", panorama_page wing_width="-1e12")")
+            << QSize(2100, 2970) << QSize(4600, 3400) << 81;
+        QTest::newRow("just 1 km") << QStringLiteral(R"(<page width="210")")
+                                   << QStringLiteral(R"(<page width="1000000")") << QString()
+                                   << QSize(10000000, 2970) << QSize(4600, 3400) << 81;
+        QTest::newRow("page thickness 1e300")
+            << QStringLiteral(R"(page_thickness="0.12")") << QStringLiteral(R"(page_thickness="1e300")")
+            << QStringLiteral(R"(spine of article 1001 : page_thickness="1e300" is no length)")
+            << QSize(2100, 2970) << QSize(4600, 3400) << 50;
+    }
+
+    void extremeLengths()
+    {
+        QFETCH(QString, from);
+        QFETCH(QString, to);
+        QFETCH(QString, warning);
+        QFETCH(QSize, page);
+        QFETCH(QSize, cover);
+        QFETCH(int, spine);
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+        if (!warning.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
+        QString xml = QString::fromLatin1(sampleBook);
+        QVERIFY(xml.contains(from));
+        xml.replace(from, to);
+        const ZTAPMArticleDefinition book = definition(xml);
+
+        const auto key = [](ZTPageTypeEnum theType, int thePages) {
+            return ZTPageSizeKey(ZTPageType(theType), thePages);
+        };
+        QCOMPARE(book.usablePrintSize(key(ZTPageTypePage, 26)), page);
+        QCOMPARE(book.usablePrintSize(key(ZTPageTypeCoverFront, 26)), cover);
+        QCOMPARE(book.usablePrintSize(key(ZTPageTypeSpine, 26)).width(), spine);
+        // Whatever the page count, the spine stays an int.
+        QVERIFY(book.usablePrintSize(key(ZTPageTypeSpine, -1)).width() >= spine);
+        QVERIFY(book.printSizeInPixel().width() >= 0);
+        QVERIFY(book.maxLengthInPixels() >= 0);
+    }
+
     void printGeometry()
     {
         const ZTAPMArticleDefinition print = definition(QString::fromLatin1(samplePrint));

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include <atomic>
 #include <thread>
@@ -185,15 +186,33 @@ private Q_SLOTS:
         QCOMPARE(objects->priceInfo(ZTArticleId(1001)).priceValues().count(), 1);
     }
 
-    void emptyDocument()
+    // A document without rows, or a broken one, is read once: the empty store is its answer
+    // until the host asks for a new reading, and a broken file warns once, not at every question.
+    void emptyOrBrokenDocumentIsReadOnce()
     {
-        // A document without articles leaves the store empty, and the next question reads again.
         ZTAPMObjects* objects = ZTAPMObjects::instance();
         copy(QStringLiteral("stores-reload/empty.xml"), QStringLiteral("deliverytimes.xml"));
         objects->updateKeyAccountData(ZTKeyAccountDataType(ZTKeyAccountDataTypeDeliveryTimes));
         QVERIFY(objects->deliveryTimes(ZTArticleId(1001)).isEmpty());
         copy(QStringLiteral("stores/deliverytimes.xml"), QStringLiteral("deliverytimes.xml"));
+        QVERIFY(objects->deliveryTimes(ZTArticleId(1001)).isEmpty());
+        objects->updateKeyAccountData(ZTKeyAccountDataType(ZTKeyAccountDataTypeDeliveryTimes));
         QCOMPARE(objects->deliveryTimes(ZTArticleId(1001)).size(), 2);
+
+        // A fresh store whose first reading breaks.
+        QTemporaryDir directory;
+        ZTProgramConfig::instance()->setKeyAccountDirectory(directory.path());
+        QFile file(directory.filePath(QStringLiteral("prices.xml")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("<xtci><articles><article id='1'>");
+        file.close();
+        const ZTAPMArticlePrices prices;
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("^XML error in .*prices\\.xml at line 1")));
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+        for (int id = 1; id <= 100; ++id)
+            QVERIFY(!prices.priceInfo(ZTArticleId(id)).isValid());
+        ZTProgramConfig::instance()->setKeyAccountDirectory(myDirectory.path());
     }
 
     // Sections count in node-name order whatever their order in the file; a broken file leaves
@@ -220,6 +239,59 @@ private Q_SLOTS:
         QCOMPARE(store.myParsedElements.load(), 5);
         QCOMPARE(store.data(ZTArticleId(1)), 3);
         QCOMPARE(store.data(ZTArticleId(2)), 1);
+    }
+
+    // Readers hold definitions, price infos and delivery times and keep using them while the
+    // documents are read again under their feet: a held value never changes, and a fresh one
+    // is always a whole one. Meant for ThreadSanitizer as well (see tst_ZTAPMDataBaseThreads).
+    void heldValuesDuringReloads()
+    {
+        ZTProgramConfig::instance()->setKeyAccountDirectory(QStringLiteral(ZT_DEMO_DATA_DIR));
+        ZTAPMObjects* objects = ZTAPMObjects::instance();
+        objects->updateKeyAccountData();
+        const ZTArticleId book(1001);
+        const QString name = objects->articleDefinition(book).name();
+        const QSize pageSize =
+            objects->articleDefinition(book).usablePrintSize(ZTPageSizeKey(ZTPageType(ZTPageTypePage), 26));
+        const int rows = objects->priceInfo(book).priceValues().count();
+        const qsizetype times = objects->deliveryTimes(book).size();
+        QVERIFY(!name.isEmpty() && rows > 0 && times > 0);
+
+        std::atomic<bool> stop{false};
+        std::atomic<int> rounds{0};
+        std::atomic<int> faults{0};
+        const auto whole = [&](const ZTAPMArticleDefinition& theDefinition,
+                               const ZTAPMArticlePriceInfo& thePrices, const ZTAPMDeliveryTimes& theTimes) {
+            return theDefinition.name() == name &&
+                   theDefinition.usablePrintSize(ZTPageSizeKey(ZTPageType(ZTPageTypePage), 26)) == pageSize &&
+                   theDefinition.orderTxtValue(QStringLiteral("TYPE=")) ==
+                       objects->articleDefinition(book).orderTxtValue(QStringLiteral("TYPE=")) &&
+                   thePrices.priceValues().count() == rows && theTimes.size() == times &&
+                   theTimes.isExpressable();
+        };
+        const auto reader = [&] {
+            const ZTAPMArticleDefinition heldDefinition = objects->articleDefinition(book);
+            const ZTAPMArticlePriceInfo heldPrices = objects->priceInfo(book);
+            const ZTAPMDeliveryTimes heldTimes = objects->deliveryTimes(book);
+            while (!stop.load()) {
+                if (!whole(heldDefinition, heldPrices, heldTimes) ||
+                    !whole(objects->articleDefinition(book), objects->priceInfo(book),
+                           objects->deliveryTimes(book)))
+                    ++faults;
+                ++rounds;
+            }
+        };
+        std::vector<std::thread> readers;
+        for (int i = 0; i < 3; ++i)
+            readers.emplace_back(reader);
+        for (int i = 0; i < 10; ++i)
+            objects->updateKeyAccountData();
+        while (rounds.load() < 30)
+            QThread::msleep(10);
+        stop = true;
+        for (std::thread& thread : readers)
+            thread.join();
+        QCOMPARE(faults.load(), 0);
     }
 
     void demoCatalogue_data()
