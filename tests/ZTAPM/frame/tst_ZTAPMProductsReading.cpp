@@ -2,7 +2,6 @@
 #include "ZTAPMArticleDeliveryTimes.h"
 #include "ZTAPMArticlePrices.h"
 #include "ZTAPMDataBase.h"
-#include "ZTAPMElementIndex.h"
 #include "ZTAPMObjects.h"
 #include "ZTAPMProductsReading.h"
 #include "ZTProductAbstract.h"
@@ -297,12 +296,11 @@ private Q_SLOTS:
         }
         QCOMPARE(describe(streamed, ids), describe(whole, ids));
 
-        // The prices store parses an article at its first question, the delivery times store
-        // streams its document: a whole DOM gives the same values. A key account without such a
+        // The prices and delivery times stores stream their documents: a whole DOM gives the
+        // same values. A key account without such a
         // document leaves the store as it was.
         const ZTAPMObjects* stores = ZTSingleton<ZTAPMObjects>::instance();
         if (QFileInfo::exists(QDir(directory).filePath(QStringLiteral("prices.xml")))) {
-            // Filled element by element and asked through data(), which never indexes.
             ZTAPMArticlePrices wholePrices;
             QList<ZTArticleId> priced;
             readWhole(wholePrices, rootOf(directory, "prices.xml"), &priced);
@@ -316,69 +314,6 @@ private Q_SLOTS:
             for (const ZTArticleId& id : std::as_const(timed) + ids)
                 QCOMPARE(stores->deliveryTimes(id), wholeTimes.deliveryTimes(id));
         }
-    }
-
-    // The quick pass finds what a parser would give a store, and refuses what a parser refuses
-    // as a whole: tags that do not nest, a document cut short.
-    void elementIndex_data()
-    {
-        QTest::addColumn<QByteArray>("document");
-        QTest::addColumn<bool>("wellFormed");
-        QTest::addColumn<QString>("found"); // id: section and name of each element, in order
-
-        QTest::newRow("sections in any order")
-            << QByteArray("<?xml version=\"1.0\"?><p><add_ons><add_on id=\"2\"/></add_ons>"
-                          "<articles><article id=\"1\"><x a=\"/>\"/></article><article id=\"2\">"
-                          "</article></articles></p>")
-            << true << QStringLiteral("1: 0 article; 2: 0 article, 1 add_on");
-        QTest::newRow("markup in comments, CDATA and values")
-            << QByteArray("<!DOCTYPE p [<!ENTITY e \"x\">]><p><!-- <articles> --><articles>"
-                          "<article id=' 7 '><![CDATA[</article>]]><?pi </p>?></article></articles></p>")
-            << true << QStringLiteral("7: 0 article");
-        QTest::newRow("only the first section, only its own elements")
-            << QByteArray("<p><articles><add_on id=\"3\"/><article id=\"4\"><article id=\"5\"/></article>"
-                          "</articles><articles><article id=\"6\"/></articles></p>")
-            << true << QStringLiteral("4: 0 article");
-        QTest::newRow("a character reference in the id")
-            << QByteArray("<p><articles><article id=\"&#56;\"/></articles></p>") << true
-            << QStringLiteral("8: 0 article");
-        QTest::newRow("tags that do not match")
-            << QByteArray("<p><articles><article id=\"1\"></articles></article></p>") << false << QString();
-        QTest::newRow("cut short") << QByteArray("<p><articles><article id=\"1\"/>") << false << QString();
-        QTest::newRow("two roots") << QByteArray("<p/><p/>") << false << QString();
-    }
-
-    void elementIndex()
-    {
-        QFETCH(QByteArray, document);
-        QFETCH(bool, wellFormed);
-        QFETCH(QString, found);
-        QTemporaryDir directory;
-        QFile file(directory.filePath(QStringLiteral("index.xml")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(document);
-        file.close();
-
-        if (!wellFormed)
-            QTest::ignoreMessage(QtWarningMsg,
-                                 QRegularExpression(QStringLiteral("^XML error in .*index\\.xml")));
-        ZTAPMElementIndex index;
-        QCOMPARE(index.build(QFileInfo(file.fileName()),
-                             {QStringLiteral("articles"), QStringLiteral("add_ons")},
-                             {QStringLiteral("article"), QStringLiteral("add_on")}),
-                 wellFormed);
-        QStringList seen;
-        for (qint32 id = 0; id < 10; ++id) {
-            QStringList elements;
-            for (const ZTAPMElementIndex::Entry& entry : index.entries(id)) {
-                const QDomElement element = index.element(entry);
-                elements << QStringLiteral("%1 %2").arg(entry.section).arg(element.tagName());
-                QCOMPARE(ZTArticleId::fromIdAttribute(element), ZTArticleId(id));
-            }
-            if (!elements.isEmpty())
-                seen << QStringLiteral("%1: %2").arg(id).arg(elements.join(QStringLiteral(", ")));
-        }
-        QCOMPARE(seen.join(QStringLiteral("; ")), found);
     }
 };
 
