@@ -11,6 +11,9 @@ ZTCurrency::ZTCurrency(const QDomElement& theElement)
 {
     myGenericName = ZTXMLParser::text(theElement, QStringLiteral("name"), myGenericName);
     mySymbolHTML = ZTXMLParser::text(theElement, QStringLiteral("symbolHTML"), mySymbolHTML);
+    // An empty element stands for the plain symbol.
+    if (mySymbolHTML.isEmpty())
+        mySymbolHTML = QString();
     myIsoCode = ZTXMLParser::attribute(theElement, QStringLiteral("isocode"), QString(), true);
     myDecimalSep = ZTXMLParser::text(theElement, QStringLiteral("decimalsep"), myDecimalSep);
     mySymbolInFront = ZTXMLParser::boolText(theElement, QStringLiteral("symbolinfront"), mySymbolInFront);
