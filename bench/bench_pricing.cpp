@@ -73,8 +73,7 @@ int main(int argc, char* argv[])
     std::printf("%-24s %6s %14s %14s %10s\n", "order source", "pieces", "via product", "models only",
                 "priced");
     qint64 checksum = 0;
-    for (const ZTOrderSource& source : {ZTOrderSource::onlineMailOrder(), ZTOrderSource::onlinePointOfSale(),
-                                        ZTOrderSource::cdPointOfSale()}) {
+    for (const ZTOrderSource& source : ZTOrderSource::all()) {
         const ZTAPMPriceKey key(source);
         for (int count : {1, 10, 100}) {
             QElapsedTimer timer;

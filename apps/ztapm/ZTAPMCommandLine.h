@@ -1,43 +1,38 @@
 #ifndef ZTAPMCOMMANDLINE_H
 #define ZTAPMCOMMANDLINE_H
 
-#include <QJsonObject>
 #include <QStringList>
 
-class QCommandLineParser;
-class QTextStream;
-class ZTProductAbstract;
+#include <memory>
+#include <vector>
 
-// The commands of the ztapm program. Each command builds one JSON report; --json prints it as it
-// is, otherwise it is written as text for a person. Warnings of the engine go to stderr as they
-// happen and are counted in the start-up report.
+class QCommandLineParser;
+class ZTAPMCommand;
+
+// The ztapm program: reads the options, picks the command, starts the engine on the key account
+// and prints the command's report, as JSON with --json and as text otherwise. The commands
+// themselves are ZTAPMCommand classes, registered in the constructor.
 class ZTAPMCommandLine
 {
 public:
-    enum ExitStatus { Success = 0, UsageError = 2, NotFound = 3 };
-
     ZTAPMCommandLine();
+    ~ZTAPMCommandLine();
 
-    // Parses the arguments (program name first) and runs the command.
+    // Parses the arguments (program name first) and runs the command; returns the exit status.
     int run(const QStringList& theArguments);
 
-    // Installed as Qt's message handler for the life of the program.
-    static void collectMessage(QtMsgType theType, const QMessageLogContext& theContext,
-                               const QString& theMessage);
-
 private:
-    int runStartup();
-    int runCatalogue();
-    int runArticle(const QStringList& theArguments);
-    int runPrice(const QStringList& theArguments);
+    template <typename COMMAND>
+    void add()
+    {
+        myCommands.push_back(std::make_unique<COMMAND>());
+    }
+    ZTAPMCommand* command(const QString& theName) const;
+    QString commandsHelp() const;
+    // Usage error for an option that belongs to other commands only, else Success.
+    int checkForeignOptions(const ZTAPMCommand& theCommand, const QCommandLineParser& theParser) const;
 
-    int fail(ExitStatus theStatus, const QString& theMessage) const;
-    // The product of an id given on the command line, or null with the message already written.
-    ZTProductAbstract* productArgument(const QString& theText, int* theStatus) const;
-    int report(const QJsonObject& theReport, void (*theTextWriter)(const QJsonObject&, QTextStream&)) const;
-
-    QCommandLineParser* myParser = nullptr;
-    bool myJson = false;
+    std::vector<std::unique_ptr<ZTAPMCommand>> myCommands;
 };
 
 #endif // ZTAPMCOMMANDLINE_H

@@ -1,6 +1,7 @@
 // ztapm: the engine's command-line host. It runs the engine's start-up on a key account the way
 // the ordering client does, and answers catalogue and price questions from it.
 
+#include "ZTAPMCommand.h"
 #include "ZTAPMCommandLine.h"
 
 #include <QCoreApplication>
@@ -10,6 +11,6 @@ int main(int argc, char* argv[])
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("ztapm"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZTAPM_VERSION));
-    qInstallMessageHandler(&ZTAPMCommandLine::collectMessage);
+    qInstallMessageHandler(&ZTAPMCommand::collectMessage);
     return ZTAPMCommandLine().run(QCoreApplication::arguments());
 }

@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -5,7 +6,8 @@
 #include <QProcess>
 #include <QTest>
 
-// The ztapm program as a person or a script runs it: exit statuses, messages and the JSON it prints.
+// The ztapm program as a person or a script runs it: exit statuses, messages, the JSON it prints and,
+// through golden files, every byte of its output.
 class TestZtapm : public QObject
 {
     Q_OBJECT
@@ -151,6 +153,90 @@ private Q_SLOTS:
         QVERIFY2(run.err.startsWith("ztapm: "), run.err.constData());
         QVERIFY2(QString::fromUtf8(run.err).contains(message), run.err.constData());
         QVERIFY(run.out.isEmpty());
+    }
+
+    // Every command's output, text and JSON, against the golden files under tests/data/ztapm-*/.
+    // The commands.txt of each folder names a file and the command line that prints it. On a
+    // mismatch the output is left in the build tree as <file>.actual, for `diff -u`. After a
+    // deliberate change of output, run `ZTAPM_UPDATE_GOLDEN=1 build/bin/tst_ztapm golden`: it
+    // rewrites the golden files, and the diff in review shows what changed.
+    void golden_data()
+    {
+        QTest::addColumn<QString>("keyAccount");
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QStringList>("arguments");
+
+        const QList<QPair<QString, QString>> cases{
+            {QStringLiteral("ztapm-demo"), QStringLiteral(ZT_DEMO_DATA_DIR)},
+            {QStringLiteral("ztapm-models"), QStringLiteral(ZT_TEST_DATA_DIR "/models")}};
+        for (const auto& [folder, keyAccount] : cases) {
+            QFile list(QStringLiteral(ZT_TEST_DATA_DIR "/") + folder + QStringLiteral("/commands.txt"));
+            QVERIFY2(list.open(QIODevice::ReadOnly | QIODevice::Text), qPrintable(list.fileName()));
+            while (!list.atEnd()) {
+                const QString line = QString::fromUtf8(list.readLine()).simplified();
+                if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+                    continue;
+                QStringList arguments = line.split(QLatin1Char(' '));
+                const QString file = arguments.takeFirst();
+                QTest::newRow(qPrintable(folder + QLatin1Char('/') + file))
+                    << QDir(keyAccount).absolutePath() << folder << file << arguments;
+            }
+        }
+    }
+    void golden()
+    {
+        QFETCH(QString, keyAccount);
+        QFETCH(QString, folder);
+        QFETCH(QString, file);
+        QFETCH(QStringList, arguments);
+        arguments << QStringLiteral("--data") << keyAccount;
+
+        const Run run = ztapm(arguments);
+        QCOMPARE(run.exitCode, 0);
+        // Nothing may depend on the run: hash order is seeded per process.
+        const Run again = ztapm(arguments);
+        QVERIFY2(again.out == run.out && again.err == run.err, "a second run printed something else");
+
+        QByteArray actual = run.out;
+        actual.replace(keyAccount.toUtf8(), "$KEY_ACCOUNT");
+        const QString goldenPath = QStringLiteral(ZT_TEST_DATA_DIR "/") + folder + QLatin1Char('/') + file;
+        const QString actualPath = QStringLiteral(ZTAPM_GOLDEN_ACTUAL_DIR "/") + folder + QLatin1Char('/') +
+                                   file + QStringLiteral(".actual");
+        if (qEnvironmentVariableIntValue("ZTAPM_UPDATE_GOLDEN") == 1) {
+            QFile golden(goldenPath);
+            QVERIFY(golden.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            QCOMPARE(golden.write(actual), qint64(actual.size()));
+            qInfo("rewrote %s", qPrintable(goldenPath));
+            return;
+        }
+
+        QFile golden(goldenPath);
+        QVERIFY2(golden.open(QIODevice::ReadOnly),
+                 qPrintable(goldenPath + QStringLiteral(" is missing; ZTAPM_UPDATE_GOLDEN=1 writes it")));
+        const QByteArray expected = golden.readAll();
+        if (actual == expected) {
+            QFile::remove(actualPath);
+            return;
+        }
+        QDir().mkpath(QFileInfo(actualPath).absolutePath());
+        QFile output(actualPath);
+        QVERIFY(output.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        output.write(actual);
+        const QList<QByteArray> expectedLines = expected.split('\n');
+        const QList<QByteArray> actualLines = actual.split('\n');
+        int line = 0;
+        while (line < expectedLines.size() && line < actualLines.size() &&
+               expectedLines.at(line) == actualLines.at(line))
+            ++line;
+        QFAIL(qPrintable(QStringLiteral("output differs from the golden file at line %1\n"
+                                        "   expected: %2\n   actual:   %3\n"
+                                        "   diff -u %4 %5\n"
+                                        "   ZTAPM_UPDATE_GOLDEN=1 accepts the new output")
+                             .arg(line + 1)
+                             .arg(QString::fromUtf8(expectedLines.value(line, "<end of file>")),
+                                  QString::fromUtf8(actualLines.value(line, "<end of file>")), goldenPath,
+                                  actualPath)));
     }
 
     void catalogueAndArticle()

@@ -98,8 +98,8 @@ ZTPriceBundle ZTProductAbstract::minPrices(bool theAllLimits) const
 {
     ZTPriceBundle result;
     ZTMoney bound(noAmount);
-    for (const ZTOrderSource& source : {ZTOrderSource::onlinePointOfSale(), ZTOrderSource::onlineMailOrder(),
-                                        ZTOrderSource::cdPointOfSale()}) {
+    // Of equal prices the first source in this order wins.
+    for (const ZTOrderSource& source : ZTOrderSource::all()) {
         const ZTPriceBundle candidate = minPricesFor(ZTAPMPriceKey(source), theAllLimits);
         if (candidate.price() < bound) {
             result = candidate;
@@ -113,8 +113,8 @@ ZTMoney ZTProductAbstract::priceFirstFit() const
 {
     bool first = true;
     ZTMoney result;
-    for (const ZTOrderSource& source : {ZTOrderSource::cdPointOfSale(), ZTOrderSource::onlinePointOfSale(),
-                                        ZTOrderSource::onlineMailOrder()}) {
+    // The largest of the three; which source comes first makes no difference to the value.
+    for (const ZTOrderSource& source : ZTOrderSource::all()) {
         const ZTMoney candidate = price(ZTAPMPriceKey(source), 1, ZTMoney(1));
         if (first || result < candidate)
             result = candidate;
@@ -441,8 +441,7 @@ int ZTProductAbstract::bestPriceCountFor(const ZTAPMPriceKey& theKey) const
 int ZTProductAbstract::bestPriceCount() const
 {
     int result = noAmount;
-    for (const ZTOrderSource& source : {ZTOrderSource::cdPointOfSale(), ZTOrderSource::onlinePointOfSale(),
-                                        ZTOrderSource::onlineMailOrder()})
+    for (const ZTOrderSource& source : ZTOrderSource::all())
         result = std::min(result, bestPriceCountFor(ZTAPMPriceKey(source)));
     return result;
 }

@@ -26,3 +26,17 @@ QList<ZTDeliveryType> ZTDeliveryType::allDeliveryTypes()
     static const QList<ZTDeliveryType> all{ZTDeliveryTypePointOfSale, ZTDeliveryTypeMailOrder};
     return all;
 }
+
+QString ZTDeliveryType::toLogString() const
+{
+    switch (myValue) {
+    case ZTDeliveryTypePointOfSale:
+        return QStringLiteral("point of sale");
+    case ZTDeliveryTypeMailOrder:
+        return QStringLiteral("mail order");
+    case ZTDeliveryTypeNotGiven:
+        return QStringLiteral("not given");
+    default:
+        return QStringLiteral("unknown");
+    }
+}

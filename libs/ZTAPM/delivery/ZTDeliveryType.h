@@ -24,6 +24,10 @@ public:
     // Point of sale, then mail order.
     static QList<ZTDeliveryType> allDeliveryTypes();
 
+    // "point of sale", "mail order", "not given" or "unknown": English words for logs and tools,
+    // untranslated like the order source's log string; the dialogs have texts of their own.
+    QString toLogString() const;
+
     void fillTable(ZTEnumToStringTable<ZTDeliveryTypeEnum>* theTable) const override;
 };
 

@@ -27,6 +27,9 @@
 #include <QDomElement>
 #include <QFileInfo>
 #include <QRecursiveMutex>
+#include <QSet>
+
+#include <algorithm>
 
 #if defined(__SANITIZE_THREAD__)
 #include <sanitizer/tsan_interface.h>
@@ -114,6 +117,37 @@ ZTProductRegistryShipmentMethodFees* ZTAPMDataBase::shipmentMethodFees() const
 QList<ZTProductRegistryAbstract*> ZTAPMDataBase::registries() const
 {
     return {myProducts, myPaymentFees, myTransferFees, myExpressFees, myShipmentMethodFees};
+}
+
+QList<int> ZTAPMDataBase::productCounts() const
+{
+    DataBaseLocker locker(myLock);
+    return {myProducts->productCount(), myPaymentFees->productCount(), myTransferFees->productCount(),
+            myExpressFees->productCount(), myShipmentMethodFees->productCount()};
+}
+
+ZTProductList ZTAPMDataBase::allProducts() const
+{
+    ZTProductList candidates;
+    {
+        DataBaseLocker locker(myLock);
+        candidates << myProducts->productList() << myProducts->allAddOns() << myTransferFees->productList()
+                   << myExpressFees->productList() << myPaymentFees->productList()
+                   << myShipmentMethodFees->productList();
+    }
+    // An article that links to others is in both of the first two lists.
+    ZTProductList result;
+    QSet<const ZTProductAbstract*> seen;
+    for (ZTProductAbstract* product : std::as_const(candidates)) {
+        if (product && !seen.contains(product)) {
+            seen.insert(product);
+            result.append(product);
+        }
+    }
+    std::stable_sort(result.begin(), result.end(), [](ZTProductAbstract* a, ZTProductAbstract* b) {
+        return a->articleId().id() < b->articleId().id();
+    });
+    return result;
 }
 
 ZTProductAbstract* ZTAPMDataBase::productAbstract(const ZTArticleId& theId) const

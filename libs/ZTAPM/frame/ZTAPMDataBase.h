@@ -56,6 +56,12 @@ public:
     // In the order in which a products document is read: products, payment fees, transfer fees,
     // express fees, shipment method fees.
     QList<ZTProductRegistryAbstract*> registries() const;
+    // The number of products in each registry, in the order of registries(), deprecated ones
+    // included.
+    QList<int> productCounts() const;
+    // Every product of every registry once, by article id; of equal ids articles and add-ons come
+    // before fees. For listings of the whole catalogue.
+    ZTProductList allProducts() const;
 
     // The first registry that knows the id, asked in the order products, express fees, transfer
     // fees, shipment method fees, payment fees.

@@ -31,16 +31,19 @@ ZTOrderSource ZTOrderSource::cdPointOfSale()
     return ZTOrderSource(ZTInputSourceCD, ZTDeliveryTypePointOfSale);
 }
 
+QList<ZTOrderSource> ZTOrderSource::all()
+{
+    return {onlinePointOfSale(), onlineMailOrder(), cdPointOfSale()};
+}
+
 QList<ZTOrderSource> ZTOrderSource::orderSources(const ZTInputSource& theInputSource)
 {
-    switch (theInputSource.value()) {
-    case ZTInputSourceOnline:
-        return {onlinePointOfSale(), onlineMailOrder()};
-    case ZTInputSourceCD:
-        return {cdPointOfSale()};
-    default:
-        return {};
+    QList<ZTOrderSource> result;
+    for (const ZTOrderSource& source : all()) {
+        if (source.inputSource().value() == theInputSource.value())
+            result.append(source);
     }
+    return result;
 }
 
 bool ZTOrderSource::isOnlinePointOfSale() const

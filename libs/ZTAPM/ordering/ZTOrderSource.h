@@ -25,6 +25,9 @@ public:
     static ZTOrderSource onlinePointOfSale();
     static ZTOrderSource onlineMailOrder();
     static ZTOrderSource cdPointOfSale();
+    // The three valid ways, in the one order in which lists and reports name them: online point
+    // of sale, online mail order, CD point of sale (the map order).
+    static QList<ZTOrderSource> all();
     // The valid ways of one input source, in map order; empty for an invalid input source.
     static QList<ZTOrderSource> orderSources(const ZTInputSource& theInputSource);
 

@@ -109,6 +109,11 @@ private Q_SLOTS:
                  QList<ZTDeliveryType>({ZTDeliveryTypePointOfSale, ZTDeliveryTypeMailOrder}));
         QVERIFY(!ZTDeliveryType::allDeliveryTypes().contains(notGiven));
         QCOMPARE(ZTDeliveryType(ZTDeliveryTypeMailOrder).encode(), QStringLiteral("1"));
+        // Words for logs and tools; a missing keyword is not "any": it matches no real question.
+        QCOMPARE(ZTDeliveryType(ZTDeliveryTypePointOfSale).toLogString(), QStringLiteral("point of sale"));
+        QCOMPARE(ZTDeliveryType(ZTDeliveryTypeMailOrder).toLogString(), QStringLiteral("mail order"));
+        QCOMPARE(notGiven.toLogString(), QStringLiteral("not given"));
+        QCOMPARE(ZTDeliveryType(QStringLiteral("post")).toLogString(), QStringLiteral("unknown"));
         QCOMPARE(ZTTransferModel(ZTTransferModelPerBasket).encode(), QStringLiteral("2"));
     }
 };

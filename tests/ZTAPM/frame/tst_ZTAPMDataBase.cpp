@@ -83,6 +83,21 @@ private Q_SLOTS:
         QCOMPARE(dataBase()->productAbstract(ZTProductType(QStringLiteral("BOOK_A4_HC"))), product(1001));
     }
 
+    void allProductsOnceById()
+    {
+        QCOMPARE(dataBase()->productCounts(), QList<int>({60, 5, 3, 3, 3}));
+        // The articles that link to others are add-ons too; each product is listed once.
+        const ZTProductList all = dataBase()->allProducts();
+        QCOMPARE(all.size(), 74);
+        for (int i = 0; i < all.size(); ++i) {
+            QCOMPARE(product(all.at(i)->articleId().id()), all.at(i));
+            if (i > 0)
+                QVERIFY(all.at(i - 1)->articleId().id() < all.at(i)->articleId().id());
+        }
+        QCOMPARE(all.first(), product(1001));
+        QCOMPARE(all.last(), product(9303));
+    }
+
     void catalogueQueries()
     {
         // Calendars and books, first by name: "Fotoheft A5" is the shortest name.

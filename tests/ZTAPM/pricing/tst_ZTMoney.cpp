@@ -7,6 +7,8 @@
 #include <QJsonObject>
 #include <QTest>
 
+#include <algorithm>
+
 // Amounts, price bundles and the ways of ordering.
 class tst_ZTMoney : public QObject
 {
@@ -151,6 +153,14 @@ private Q_SLOTS:
         QCOMPARE(ZTOrderSource::orderSources(ZTInputSourceCD),
                  QList<ZTOrderSource>{ZTOrderSource::cdPointOfSale()});
         QVERIFY(ZTOrderSource::orderSources(ZTInputSourceInvalid).isEmpty());
+
+        // The one list of all three, in map order, which every listing follows.
+        const QList<ZTOrderSource> all = ZTOrderSource::all();
+        QStringList logStrings;
+        for (const ZTOrderSource& source : all)
+            logStrings.append(source.toLogString());
+        QCOMPARE(logStrings, QStringList({QStringLiteral("FC"), QStringLiteral("FM"), QStringLiteral("CC")}));
+        QVERIFY(std::is_sorted(all.cbegin(), all.cend()));
 
         QList<ZTOrderSource> sources{ZTOrderSource::cdPointOfSale(), ZTOrderSource::onlineMailOrder(),
                                      ZTOrderSource::onlinePointOfSale()};
