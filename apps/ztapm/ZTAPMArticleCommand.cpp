@@ -8,8 +8,6 @@
 
 #include <QTextStream>
 
-#include <algorithm>
-
 QString ZTAPMArticleCommand::name() const
 {
     return QStringLiteral("article");
@@ -45,19 +43,9 @@ int ZTAPMArticleCommand::run(QJsonObject& theReport)
 
     QJsonArray prices;
     for (const ZTOrderSource& source : ZTOrderSource::all()) {
-        QList<ZTAPMPriceValue> values;
-        const ZTAPMPriceValues::Rows& rows = priceInfo.priceValues().rows();
-        for (auto it = rows.cbegin(); it != rows.cend(); ++it) {
-            if (it.key().orderSource() == source)
-                values.append(it.value());
-        }
+        const QList<ZTAPMPriceValue> values = priceInfo.ladder(source);
         if (values.isEmpty())
             continue;
-        std::sort(values.begin(), values.end(), [](const ZTAPMPriceValue& a, const ZTAPMPriceValue& b) {
-            if (a.discountModel().value() != b.discountModel().value())
-                return a.discountModel().value() < b.discountModel().value();
-            return a.discountLevel() < b.discountLevel();
-        });
         QJsonArray ladder;
         for (const ZTAPMPriceValue& value : std::as_const(values)) {
             const bool offer = value.isOfferPriceValid();

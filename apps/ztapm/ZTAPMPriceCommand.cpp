@@ -1,13 +1,11 @@
 #include "ZTAPMPriceCommand.h"
 
-#include "ZTAPMArticlePriceInfo.h"
+#include "ZTAPMPriceExplanation.h"
 #include "ZTAPMPriceKey.h"
 #include "ZTProductAbstract.h"
 
 #include <QCommandLineParser>
 #include <QTextStream>
-
-#include <algorithm>
 
 QString ZTAPMPriceCommand::name() const
 {
@@ -77,41 +75,22 @@ int ZTAPMPriceCommand::run(QJsonObject& theReport)
     if (!product)
         return status;
 
-    const ZTAPMArticlePriceInfo priceInfo = product->priceInfo();
-    const ZTMoney billingSum(myBillingSum);
     const ZTAPMPriceKey key(myOrderSource, 0,
                             myExpress ? ZTDiscountModel(ZTDiscountModelExpressFee) : ZTDiscountModel());
-    const ZTMoney amount = product->priceFor(key, myCount, billingSum, nullptr, nullptr);
-
-    // What each model of the article would give, in the order of the models' values.
-    QList<ZTDiscountModel> models(priceInfo.discountModels().cbegin(), priceInfo.discountModels().cend());
-    std::sort(models.begin(), models.end(),
-              [](const ZTDiscountModel& a, const ZTDiscountModel& b) { return a.value() < b.value(); });
+    const ZTAPMPriceExplanation explanation =
+        product->explainPrice(key, myCount, ZTMoney(myBillingSum), nullptr);
     QJsonArray candidates;
-    for (const ZTDiscountModel& model : std::as_const(models)) {
-        if (myExpress && model.value() != ZTDiscountModelExpressFee)
-            continue;
-        const ZTMoney candidate =
-            priceInfo.priceInModel(ZTAPMPriceKey(key, model), myCount, billingSum, nullptr);
-        candidates.append(QJsonObject{{QStringLiteral("model"), modelName(model)},
-                                      {QStringLiteral("amount"), amountJson(candidate)}});
-    }
+    for (const ZTAPMPriceExplanation::Candidate& candidate : explanation.candidates())
+        candidates.append(QJsonObject{{QStringLiteral("model"), modelName(candidate.first)},
+                                      {QStringLiteral("amount"), amountJson(candidate.second)}});
 
-    ZTDiscountModel chosen;
-    if (priceInfo.transferModel() == ZTTransferModelPerBasket)
-        chosen = ZTDiscountModel(ZTDiscountModelBasketTransfer);
-    else if (myExpress)
-        chosen = ZTDiscountModel(ZTDiscountModelExpressFee);
-    else
-        chosen = priceInfo.bestDiscountModel(key, myCount, billingSum, 0);
-
-    theReport = {
-        {QStringLiteral("article"), product->articleId().id()},
-        {QStringLiteral("count"), myCount},
-        {QStringLiteral("source"), myOrderSource.toLogString()},
-        {QStringLiteral("model"), amount.value() == ZTMoney::noPrice ? QString() : modelName(chosen)},
-        {QStringLiteral("amount"), amountJson(amount)},
-        {QStringLiteral("candidates"), candidates}};
+    theReport = {{QStringLiteral("article"), product->articleId().id()},
+                 {QStringLiteral("count"), myCount},
+                 {QStringLiteral("source"), myOrderSource.toLogString()},
+                 {QStringLiteral("model"),
+                  explanation.chosenModel().isNull() ? QString() : modelName(explanation.chosenModel())},
+                 {QStringLiteral("amount"), amountJson(explanation.amount())},
+                 {QStringLiteral("candidates"), candidates}};
     return Success;
 }
 

@@ -26,12 +26,16 @@ ZTAPMObjects* stores()
     return ZTSingleton<ZTAPMObjects>::instance();
 }
 
+// The limits in the limit list's order, which is total: every walk below sees them alike.
 ZTDiscountLimitList limitList(const ZTDiscountLimitSet& theSet)
 {
-    return ZTDiscountLimitList(theSet.values());
+    ZTDiscountLimitList result(theSet.values());
+    result.sort();
+    return result;
 }
 
-// The smallest limit by the limits' own order, the first of equals.
+// The smallest limit by the limits' own order (level does not count), the first of equals in
+// the list's order: the lowest level.
 ZTDiscountLimit smallestLimit(const ZTDiscountLimitList& theLimits)
 {
     return *std::min_element(theLimits.cbegin(), theLimits.cend());
@@ -149,10 +153,9 @@ ZTPriceClass ZTProductAbstract::priceClass() const
 ZTMoney ZTProductAbstract::minPriceFor(const ZTAPMPriceKey& theKey, bool theAllLimits) const
 {
     const ZTAPMArticlePriceInfo info = priceInfo();
-    ZTDiscountLimitList limits = limitList(info.discountLimits(theKey));
+    const ZTDiscountLimitList limits = limitList(info.discountLimits(theKey));
     ZTMoney minimum(noAmount);
     if (hasArticleClass(classesPricedAtAllLimits) && theAllLimits) {
-        limits.sort();
         for (const ZTDiscountLimit& limit : std::as_const(limits)) {
             const ZTMoney candidate = info.priceAtBound(theKey, limit);
             if (candidate.isValid() && candidate < minimum)
@@ -167,10 +170,9 @@ ZTMoney ZTProductAbstract::minPriceFor(const ZTAPMPriceKey& theKey, bool theAllL
 ZTPriceBundle ZTProductAbstract::minPricesFor(const ZTAPMPriceKey& theKey, bool theAllLimits) const
 {
     const ZTAPMArticlePriceInfo info = priceInfo();
-    ZTDiscountLimitList limits = limitList(info.discountLimits(theKey));
+    const ZTDiscountLimitList limits = limitList(info.discountLimits(theKey));
     ZTPriceBundle minimum;
     if (hasArticleClass(classesPricedAtAllLimits) && theAllLimits) {
-        limits.sort();
         for (const ZTDiscountLimit& limit : std::as_const(limits)) {
             const ZTPriceBundle candidate = info.pricesAtBound(theKey, limit);
             if (candidate.price().isValid() && candidate.price() < minimum.price())
@@ -363,6 +365,13 @@ ZTMoney ZTProductAbstract::priceFor(const ZTAPMPriceKey& theKey, int theCount, c
     return priceInfo().priceFor(theKey, theCount, theBillingSum, theBill, theStatistic);
 }
 
+ZTAPMPriceExplanation ZTProductAbstract::explainPrice(const ZTAPMPriceKey& theKey, int theCount,
+                                                      const ZTMoney& theBillingSum,
+                                                      const ZTAPMOrderStatistic* theStatistic) const
+{
+    return priceInfo().explainPrice(theKey, theCount, theBillingSum, theStatistic);
+}
+
 bool ZTProductAbstract::shippingTimesEnabled() const
 {
     return !deliveryTimes().isEmpty();
@@ -416,26 +425,7 @@ bool ZTProductAbstract::matches(const ZTArticleId& theId, const ZTPriceClass& th
 
 int ZTProductAbstract::bestPriceCountFor(const ZTAPMPriceKey& theKey) const
 {
-    const ZTAPMArticlePriceInfo info = priceInfo();
-    ZTDiscountLimitList limits = limitList(info.discountLimits(theKey));
-    limits.sort();
-    ZTMoney bestPrice(noAmount);
-    int bestCount = noAmount;
-    for (const ZTDiscountLimit& limit : std::as_const(limits)) {
-        const ZTMoney candidate = info.priceAtBound(theKey, limit);
-        if (!candidate.isValid())
-            continue;
-        // Of equal prices a photo package row that came from a bulk row names the better count.
-        const bool takesOver =
-            candidate < bestPrice ||
-            (candidate == bestPrice && limit.discountModel().matches(ZTDiscountModelFotoPackage) &&
-             limit.wasBulkModel());
-        if (!takesOver)
-            continue;
-        bestPrice = candidate;
-        bestCount = limit.lowerLimit();
-    }
-    return bestCount;
+    return priceInfo().bestPriceCount(theKey);
 }
 
 int ZTProductAbstract::bestPriceCount() const

@@ -120,6 +120,10 @@ public:
     // theBill is the bill under construction (a bill is its position list), or null.
     ZTMoney priceFor(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
                      ZTAPMBillPositionList* theBill, const ZTAPMOrderStatistic* theStatistic) const;
+    // priceFor without a bill, with the chosen model and every model's amount.
+    ZTAPMPriceExplanation explainPrice(const ZTAPMPriceKey& theKey, int theCount,
+                                       const ZTMoney& theBillingSum,
+                                       const ZTAPMOrderStatistic* theStatistic) const;
 
     bool shippingTimesEnabled() const;
     ZTAPMDeliveryTime shippingTime(const ZTDeliveryType& theDeliveryType,
@@ -135,6 +139,7 @@ public:
     bool matches(const ZTArticleId& theId, const ZTPriceClass& thePriceClass) const;
 
     // The quantity from which the best unit price holds; 0x7fffffff when no limit has a price.
+    // Ties as ZTAPMArticlePriceInfo::bestPriceCount decides them.
     int bestPriceCountFor(const ZTAPMPriceKey& theKey) const;
     int bestPriceCount() const;
 

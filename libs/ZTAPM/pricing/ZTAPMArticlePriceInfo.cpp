@@ -5,11 +5,15 @@
 #include "ZTAPMBillPositionList.h"
 #include "ZTAPMDataBase.h"
 #include "ZTAPMOrderStatistic.h"
+#include "ZTDiscountLimitList.h"
 #include "ZTProductAbstract.h"
 #include "ZTXMLParser.h"
 
 #include <QDebug>
 #include <QDomElement>
+
+#include <algorithm>
+#include <tuple>
 
 namespace {
 const QString PRICE_NODE = QStringLiteral("price");
@@ -29,6 +33,11 @@ ZTMoney times(ZTMoney theMoney, int theFactor)
 {
     theMoney *= theFactor;
     return theMoney;
+}
+
+bool byModelValue(const ZTDiscountModel& theFirst, const ZTDiscountModel& theSecond)
+{
+    return theFirst.value() < theSecond.value();
 }
 
 // The price outside the offer, or the row's own price where no offer runs.
@@ -81,6 +90,8 @@ void ZTAPMArticlePriceInfo::update(const QDomElement& theArticleNode)
     // Upper bounds last, so that they are computed within the converted photo package ladder.
     myPriceValues = table.fixedDiscountModelW().fixedUpperLimits();
     myDiscountModels = myPriceValues.discountModels();
+    myDiscountModelsInOrder = QList<ZTDiscountModel>(myDiscountModels.cbegin(), myDiscountModels.cend());
+    std::sort(myDiscountModelsInOrder.begin(), myDiscountModelsInOrder.end(), byModelValue);
     myTransferModel = parseTransferModel(theArticleNode);
 }
 
@@ -88,6 +99,7 @@ void ZTAPMArticlePriceInfo::clear()
 {
     myPriceValues.clear();
     myDiscountModels.clear();
+    myDiscountModelsInOrder.clear();
     myTransferModel = ZTTransferModelNone;
 }
 
@@ -150,6 +162,24 @@ bool ZTAPMArticlePriceInfo::hasDiscountModel(const ZTOrderSource& theOrderSource
                                              const ZTDiscountModel& theModel) const
 {
     return myPriceValues.containsDiscountModel(theOrderSource, theModel);
+}
+
+QList<ZTAPMPriceValue> ZTAPMArticlePriceInfo::ladder(const ZTOrderSource& theOrderSource) const
+{
+    QList<ZTAPMPriceValue> result;
+    const ZTAPMPriceValues::Rows& rows = myPriceValues.rows();
+    for (auto it = rows.cbegin(); it != rows.cend(); ++it) {
+        if (it.key().orderSource() == theOrderSource)
+            result.append(it.value());
+    }
+    // Model and level make a row's key within one order source, so the order is total.
+    std::sort(result.begin(), result.end(),
+              [](const ZTAPMPriceValue& theFirst, const ZTAPMPriceValue& theSecond) {
+                  if (theFirst.discountModel() != theSecond.discountModel())
+                      return byModelValue(theFirst.discountModel(), theSecond.discountModel());
+                  return theFirst.discountLevel() < theSecond.discountLevel();
+              });
+    return result;
 }
 
 ZTDiscountLimit ZTAPMArticlePriceInfo::fotoBasePackageLimit(const ZTOrderSource& theOrderSource) const
@@ -226,15 +256,46 @@ ZTDiscountLimitSet ZTAPMArticlePriceInfo::discountLimits(const ZTAPMPriceKey& th
     return result;
 }
 
+int ZTAPMArticlePriceInfo::bestPriceCount(const ZTAPMPriceKey& theKey) const
+{
+    ZTDiscountLimitList limits(discountLimits(theKey).values());
+    limits.sort();
+    ZTMoney bestPrice(ZTMoney::notSet);
+    int bestCount = ZTMoney::notSet;
+    for (const ZTDiscountLimit& limit : std::as_const(limits)) {
+        const ZTMoney candidate = priceAtBound(theKey, limit);
+        if (!candidate.isValid())
+            continue;
+        // Of equal prices a photo package row that came from a bulk row names the better count.
+        const bool takesOver =
+            candidate < bestPrice ||
+            (candidate == bestPrice && limit.discountModel().matches(ZTDiscountModelFotoPackage) &&
+             limit.wasBulkModel());
+        if (!takesOver)
+            continue;
+        bestPrice = candidate;
+        bestCount = limit.lowerLimit();
+    }
+    return bestCount;
+}
+
 QString ZTAPMArticlePriceInfo::dump() const
 {
     QStringList models;
-    for (const ZTDiscountModel& model : myDiscountModels)
+    for (const ZTDiscountModel& model : myDiscountModelsInOrder)
         models.append(model.encode());
-    QStringList rows;
+    // Rows by input source, delivery type, model value and level, so that two dumps compare.
     const ZTAPMPriceValues::Rows& values = myPriceValues.rows();
-    for (auto it = values.cbegin(); it != values.cend(); ++it)
-        rows.append(QStringLiteral("key:   %1\nprice: %2").arg(it.key().dump(), it.value().dump()));
+    QList<ZTAPMPriceKey> keys = values.keys();
+    std::sort(keys.begin(), keys.end(), [](const ZTAPMPriceKey& theFirst, const ZTAPMPriceKey& theSecond) {
+        return std::make_tuple(int(theFirst.inputSource().value()), int(theFirst.deliveryType().value()),
+                               int(theFirst.discountModel().value()), theFirst.discountLevel()) <
+               std::make_tuple(int(theSecond.inputSource().value()), int(theSecond.deliveryType().value()),
+                               int(theSecond.discountModel().value()), theSecond.discountLevel());
+    });
+    QStringList rows;
+    for (const ZTAPMPriceKey& key : std::as_const(keys))
+        rows.append(QStringLiteral("key:   %1\nprice: %2").arg(key.dump(), values.value(key).dump()));
     return QStringList{QStringLiteral("\nZTAPMArticlePriceInfo:"),
                        QStringLiteral("    transfer model: %1").arg(myTransferModel.encode()),
                        QStringLiteral("    max discount level: %1").arg(maxDiscountLevel()),
@@ -273,16 +334,58 @@ ZTMoney ZTAPMArticlePriceInfo::priceFor(const ZTAPMPriceKey& theKey, int theCoun
 {
     if (myTransferModel == ZTTransferModelPerBasket)
         return priceInTransferModel2(theKey, theStatistic, theBill);
+    const int inheritedLevel = theBill ? inheritedDiscountLevel(*theBill) : 0;
+    return priceInModel(chosenKey(theKey, theCount, theBillingSum, inheritedLevel), theCount, theBillingSum,
+                        theBill);
+}
+
+ZTAPMPriceKey ZTAPMArticlePriceInfo::chosenKey(const ZTAPMPriceKey& theKey, int theCount,
+                                               const ZTMoney& theBillingSum, int theInheritedLevel) const
+{
     // The caller of an express fee names its model; it takes no part in the search.
     if (theKey.discountModel() == ZTDiscountModelExpressFee)
-        return priceInModel(theKey, theCount, theBillingSum, theBill);
-
-    const int inheritedLevel = theBill ? inheritedDiscountLevel(*theBill) : 0;
+        return theKey;
     ZTAPMPriceKey key(theKey);
-    key.setDiscountModel(bestDiscountModel(theKey, theCount, theBillingSum, inheritedLevel));
+    key.setDiscountModel(bestDiscountModel(theKey, theCount, theBillingSum, theInheritedLevel));
     if (key.discountModel() == ZTDiscountModelInherited)
-        key.setDiscountLevel(inheritedLevel);
-    return priceInModel(key, theCount, theBillingSum, theBill);
+        key.setDiscountLevel(theInheritedLevel);
+    return key;
+}
+
+ZTAPMPriceKey ZTAPMArticlePriceInfo::candidateKey(const ZTAPMPriceKey& theKey,
+                                                  const ZTDiscountModel& theModel, int theInheritedLevel)
+{
+    ZTAPMPriceKey key(theKey, theModel);
+    if (theModel == ZTDiscountModelInherited)
+        key.setDiscountLevel(theInheritedLevel);
+    return key;
+}
+
+ZTAPMPriceExplanation ZTAPMArticlePriceInfo::explainPrice(const ZTAPMPriceKey& theKey, int theCount,
+                                                          const ZTMoney& theBillingSum,
+                                                          const ZTAPMOrderStatistic* theStatistic) const
+{
+    const bool expressFee = theKey.discountModel() == ZTDiscountModelExpressFee;
+    QList<ZTAPMPriceExplanation::Candidate> candidates;
+    for (const ZTDiscountModel& model : myDiscountModelsInOrder) {
+        if (expressFee && model != ZTDiscountModelExpressFee)
+            continue;
+        candidates.append(
+            {model, priceInModel(candidateKey(theKey, model, 0), theCount, theBillingSum, nullptr)});
+    }
+    ZTDiscountModel chosen;
+    ZTMoney amount;
+    if (myTransferModel == ZTTransferModelPerBasket) {
+        chosen = ZTDiscountModelBasketTransfer;
+        amount = priceInTransferModel2(theKey, theStatistic, nullptr);
+    } else {
+        const ZTAPMPriceKey key = chosenKey(theKey, theCount, theBillingSum, 0);
+        chosen = key.discountModel();
+        amount = priceInModel(key, theCount, theBillingSum, nullptr);
+    }
+    if (amount == ZTMoney(ZTMoney::noPrice))
+        chosen = ZTDiscountModel();
+    return ZTAPMPriceExplanation(chosen, amount, candidates);
 }
 
 int ZTAPMArticlePriceInfo::inheritedDiscountLevel(const ZTAPMBillPositionList& theBill) const
@@ -293,6 +396,7 @@ int ZTAPMArticlePriceInfo::inheritedDiscountLevel(const ZTAPMBillPositionList& t
         return result;
     // The linked articles are priced before their add-ons, so their positions are there already.
     const ZTAPMBillPositionList positions = theBill.filter(ZTArticleClass(ZTArticleClassAll));
+    // The highest level wins, so the walk's order does not matter.
     const ZTArticleIdSet linkedIds = addOn->linkedArticleIds();
     for (const ZTArticleId& id : linkedIds) {
         const ZTAPMBillPosition* position =
@@ -346,17 +450,16 @@ ZTDiscountModel ZTAPMArticlePriceInfo::bestDiscountModel(const ZTAPMPriceKey& th
 {
     ZTMoney bestPrice(ZTMoney::notSet);
     ZTDiscountModel bestModel;
-    for (const ZTDiscountModel& model : myDiscountModels) {
-        ZTAPMPriceKey key(theKey, model);
-        if (model == ZTDiscountModelInherited)
-            key.setDiscountLevel(theInheritedLevel);
-        const ZTMoney price = priceInModel(key, theCount, theBillingSum, nullptr);
+    for (const ZTDiscountModel& model : myDiscountModelsInOrder) {
+        const ZTMoney price =
+            priceInModel(candidateKey(theKey, model, theInheritedLevel), theCount, theBillingSum, nullptr);
         if (price == ZTMoney(ZTMoney::noPrice))
             continue;
         // A transfer by the goods' sum and an inherited level are the business's decision
         // whenever they apply, even where another model would be cheaper.
         if (model == ZTDiscountModelBillingSumTransfer || model == ZTDiscountModelInherited)
             return model;
+        // Strict: of equal prices the lower model value, visited first, stays.
         if (bestPrice > price) {
             bestPrice = price;
             bestModel = model;
@@ -511,10 +614,9 @@ ZTAPMArticlePriceInfo::baseTransferPriceInTransferModel2(const ZTAPMPriceKey& th
     if (!theStatistic)
         return result;
     const ZTAPMPriceKey key(theKey, ZTDiscountModelBulk);
-    const ZTAPMOrderStatistic::Items items = theStatistic->items();
-    for (auto it = items.cbegin(); it != items.cend(); ++it) {
-        if (it.value() != 0)
-            result = qMax(result, it.key()->baseTransferPrice(key));
+    for (const ZTAPMOrderStatistic::Item& item : theStatistic->itemsByArticleId()) {
+        if (item.second != 0)
+            result = qMax(result, item.first->baseTransferPrice(key));
     }
     return result;
 }
@@ -529,15 +631,15 @@ ZTAPMArticlePriceInfo::unitTransferPriceInTransferModel2(const ZTAPMPriceKey& th
     const ZTAPMPriceKey key(theKey, ZTDiscountModelBulk);
     const ZTProductAbstract* leader = nullptr;
     ZTMoney leaderBasePrice;
-    const ZTAPMOrderStatistic::Items items = theStatistic->items();
-    // Unlike the base half, products without pieces take part: one of them may lead.
-    for (auto it = items.cbegin(); it != items.cend(); ++it) {
-        const ZTMoney basePrice = it.key()->baseTransferPrice(key);
+    // Unlike the base half, products without pieces take part: one of them may lead. Of equal
+    // base prices the lowest article id leads, as the walk goes by article id.
+    for (const ZTAPMOrderStatistic::Item& item : theStatistic->itemsByArticleId()) {
+        const ZTMoney basePrice = item.first->baseTransferPrice(key);
         if (!leader || basePrice > leaderBasePrice) {
-            leader = it.key();
+            leader = item.first;
             leaderBasePrice = basePrice;
         }
-        sum += times(it.key()->unitTransferPrice(key), it.value());
+        sum += times(item.first->unitTransferPrice(key), item.second);
     }
     // One piece of the leading product is paid by the base price instead.
     if (leader)

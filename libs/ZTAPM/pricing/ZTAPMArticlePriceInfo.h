@@ -1,6 +1,7 @@
 #ifndef ZTAPMARTICLEPRICEINFO_H
 #define ZTAPMARTICLEPRICEINFO_H
 
+#include "ZTAPMPriceExplanation.h"
 #include "ZTAPMPriceKey.h"
 #include "ZTAPMPriceValues.h"
 #include "ZTArticleId.h"
@@ -10,6 +11,7 @@
 #include "ZTTransferModel.h"
 #include "ztapm_export.h"
 
+#include <QList>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -74,11 +76,15 @@ public:
     const ZTArticleId& articleId() const { return myArticleId; }
     const ZTAPMPriceValues& priceValues() const { return myPriceValues; }
     const QSet<ZTDiscountModel>& discountModels() const { return myDiscountModels; }
+    // The same models in ascending model value, the order in which the price search tries them.
+    const QList<ZTDiscountModel>& discountModelsInOrder() const { return myDiscountModelsInOrder; }
     const ZTTransferModel& transferModel() const { return myTransferModel; }
     int maxDiscountLevel() const { return myPriceValues.maxDiscountLevel(); }
 
     // Exact lookup; the key must be complete.
     ZTAPMPriceValue priceValue(const ZTAPMPriceKey& theKey) const;
+    // The rows of one order source, by model value and then by level: the article's price ladder.
+    QList<ZTAPMPriceValue> ladder(const ZTOrderSource& theOrderSource) const;
     bool hasDiscountModel(const ZTOrderSource& theOrderSource, const ZTDiscountModel& theModel) const;
     ZTDiscountLimit fotoBasePackageLimit(const ZTOrderSource& theOrderSource) const;
     ZTMoney nonOfferPrice(const ZTAPMPriceKey& theKey) const;
@@ -98,6 +104,10 @@ public:
     // The limits of the priced rows that theKey covers as a pattern, open-ended duplicates
     // removed. Nothing for a key of level 0 unless its model is bulk.
     ZTDiscountLimitSet discountLimits(const ZTAPMPriceKey& theKey) const;
+    // The lower bound of the limit of theKey's pattern with the best price, limits in the limit
+    // list's order. Of equal prices the first stays, except that a converted "y" row of a photo
+    // package takes over; 0x7fffffff when no limit has a price.
+    int bestPriceCount(const ZTAPMPriceKey& theKey) const;
 
     // The catalogue's product of this article; null if the catalogue has none.
     ZTProductAbstract* product() const;
@@ -115,11 +125,17 @@ public:
     // best model of the article for theCount pieces and goods worth theBillingSum.
     ZTMoney priceFor(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
                      ZTAPMBillPositionList* theBill, const ZTAPMOrderStatistic* theStatistic) const;
+    // What priceFor without a bill answers, with the model it chose and what each model of the
+    // article gives on its own (an express fee key: the "x" model only), by the same rules.
+    ZTAPMPriceExplanation explainPrice(const ZTAPMPriceKey& theKey, int theCount,
+                                       const ZTMoney& theBillingSum,
+                                       const ZTAPMOrderStatistic* theStatistic) const;
     // The amount in the key's model; an unpriceable model leaves an invalid position in a bill.
     ZTMoney priceInModel(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
                          ZTAPMBillPositionList* theBill) const;
     // The model of the cheapest price, except that "z" and "I" win whenever they price at all;
-    // 0 if no model prices. Models are tried without positions.
+    // 0 if no model prices. Models are tried without positions, in ascending model value: so "z"
+    // (32) wins over "I" (256) where both price, and of equal prices the lower model value wins.
     ZTDiscountModel bestDiscountModel(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
                                       int theInheritedLevel) const;
     // The transfer's amount without positions: for a basket-wide transfer only its base half.
@@ -147,7 +163,8 @@ public:
     ZTMoney priceBillingSumTransfer(const ZTAPMPriceKey& theKey, const ZTMoney& theBillingSum,
                                     ZTAPMBillPositionList* theList) const;
     // A basket-wide transfer (transfer model 2): the highest base price of the basket once, and
-    // every other piece at its unit price; one position of model 64 in a bill.
+    // every other piece at its unit price; one position of model 64 in a bill. The basket is
+    // walked by article id: of equal base prices the lowest article id leads.
     ZTMoney priceInTransferModel2(const ZTAPMPriceKey& theKey, const ZTAPMOrderStatistic* theStatistic,
                                   ZTAPMBillPositionList* theBill) const;
     // The highest base transfer price of the products the basket holds pieces of; 0 without one.
@@ -166,9 +183,17 @@ public:
     ZTAPMBillPosition* createBillPosition(int theUnitCount, int theItemsPerUnit,
                                           const ZTAPMPriceValue& theValue) const;
 
+    // Models by value; rows by input source, delivery type, model value and level.
     QString dump() const;
 
 private:
+    // The key priceFor prices in, outside a basket-wide transfer: an express fee key as it is,
+    // otherwise the key with the best model and, for "I", the inherited level.
+    ZTAPMPriceKey chosenKey(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum,
+                            int theInheritedLevel) const;
+    // The key under which the search tries theModel: level 0, or the inherited level for "I".
+    static ZTAPMPriceKey candidateKey(const ZTAPMPriceKey& theKey, const ZTDiscountModel& theModel,
+                                      int theInheritedLevel);
     // "f" and "x": one amount for the quantity, from the key's model.
     ZTMoney priceFlat(const ZTAPMPriceKey& theKey, int theCount, ZTAPMBillPositionList* theList) const;
     // The highest level that the linked articles of this add-on have reached in theBill; 0 for
@@ -178,6 +203,8 @@ private:
     ZTArticleId myArticleId;
     ZTAPMPriceValues myPriceValues;
     QSet<ZTDiscountModel> myDiscountModels;
+    // Sorted once when read, since the price search walks it on every call.
+    QList<ZTDiscountModel> myDiscountModelsInOrder;
     ZTTransferModel myTransferModel;
 };
 

@@ -3,6 +3,8 @@
 #include "ZTAPMDataBase.h"
 #include "ZTProductAbstract.h"
 
+#include <algorithm>
+
 ZTAPMOrderStatistic::ZTAPMOrderStatistic() = default;
 ZTAPMOrderStatistic::ZTAPMOrderStatistic(const ZTAPMOrderStatistic& theOther) = default;
 ZTAPMOrderStatistic& ZTAPMOrderStatistic::operator=(const ZTAPMOrderStatistic& theOther) = default;
@@ -31,9 +33,26 @@ int ZTAPMOrderStatistic::countItems(const ZTProductAbstract* theProduct, int the
     return myItems.value(const_cast<ZTProductAbstract*>(theProduct), theDefault);
 }
 
+QList<ZTAPMOrderStatistic::Item> ZTAPMOrderStatistic::itemsByArticleId() const
+{
+    QList<Item> result;
+    result.reserve(myItems.size());
+    for (auto it = myItems.cbegin(); it != myItems.cend(); ++it)
+        result.append({it.key(), it.value()});
+    std::sort(result.begin(), result.end(), [](const Item& theFirst, const Item& theSecond) {
+        if (!theFirst.first || !theSecond.first)
+            return !theFirst.first && theSecond.first;
+        return theFirst.first->articleId().id() < theSecond.first->articleId().id();
+    });
+    return result;
+}
+
 ZTProductList ZTAPMOrderStatistic::products() const
 {
-    return ZTProductList(myItems.keys());
+    ZTProductList result;
+    for (const Item& item : itemsByArticleId())
+        result.append(item.first);
+    return result;
 }
 
 ZTMoney ZTAPMOrderStatistic::totalPrice(const ZTAPMPriceKey& theKey) const

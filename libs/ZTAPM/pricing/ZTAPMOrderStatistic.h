@@ -6,6 +6,8 @@
 #include "ztapm_export.h"
 
 #include <QHash>
+#include <QList>
+#include <QPair>
 
 class ZTAPMPriceKey;
 class ZTArticleId;
@@ -18,6 +20,7 @@ class ZTAPM_EXPORT ZTAPMOrderStatistic
 {
 public:
     using Items = QHash<ZTProductAbstract*, int>;
+    using Item = QPair<ZTProductAbstract*, int>;
 
     ZTAPMOrderStatistic();
     ZTAPMOrderStatistic(const ZTAPMOrderStatistic& theOther);
@@ -35,7 +38,11 @@ public:
     int countItems(const ZTProductAbstract* theProduct, int theDefault) const;
     bool isEmpty() const { return myItems.isEmpty(); }
     Items items() const { return myItems; }
-    // The products in the hash's order, null ones included.
+    // The entries in ascending article id, a null product first: the one order in which the
+    // basket is walked wherever the walk decides something. Products of one article id share
+    // their price info, so their order among themselves changes no result.
+    QList<Item> itemsByArticleId() const;
+    // The products in ascending article id, null ones included.
     ZTProductList products() const;
     // One piece of every product at its price under theKey, times its number. A product that
     // cannot be priced adds its -1 like any price.

@@ -16,7 +16,9 @@ bool ZTDiscountLimitList::lessThan(const ZTDiscountLimit& theFirst, const ZTDisc
         return theFirst.discountLevel() < theSecond.discountLevel();
     if (theFirst.lowerLimit() != theSecond.lowerLimit())
         return theFirst.lowerLimit() < theSecond.lowerLimit();
-    return theFirst.upperLimit() < theSecond.upperLimit();
+    if (theFirst.upperLimit() != theSecond.upperLimit())
+        return theFirst.upperLimit() < theSecond.upperLimit();
+    return !theFirst.wasBulkModel() && theSecond.wasBulkModel();
 }
 
 void ZTDiscountLimitList::sort()

@@ -13,7 +13,9 @@ public:
     ZTDiscountLimitList();
     ZTDiscountLimitList(const QList<ZTDiscountLimit>& theLimits);
 
-    // Model, then level, then lower limit, then upper limit; an open end (-1) sorts first.
+    // Model, then level, then lower limit, then upper limit, an open end (-1) first, then a
+    // converted "y" row behind a native one: a total order, so that a sort is the same for any
+    // order the limits came in.
     static bool lessThan(const ZTDiscountLimit& theFirst, const ZTDiscountLimit& theSecond);
     void sort();
 

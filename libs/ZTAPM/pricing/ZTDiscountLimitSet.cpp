@@ -1,5 +1,7 @@
 #include "ZTDiscountLimitSet.h"
 
+#include "ZTDiscountLimitList.h"
+
 #include <algorithm>
 
 ZTDiscountLimitSet::ZTDiscountLimitSet() = default;
@@ -10,13 +12,15 @@ ZTDiscountLimitSet::ZTDiscountLimitSet(const QSet<ZTDiscountLimit>& theLimits)
 
 void ZTDiscountLimitSet::removeZeroLimits()
 {
-    QSet<ZTDiscountLimit> openEnded;
+    ZTDiscountLimitList openEnded;
     for (const ZTDiscountLimit& limit : std::as_const(*this)) {
         if (limit.upperLimit() == -1)
-            openEnded.insert(limit);
+            openEnded.append(limit);
     }
-    for (const ZTDiscountLimit& limit : std::as_const(openEnded)) {
-        // Sees earlier removals: of several open-ended twins without a bounded one, one stays.
+    // Last first: each removal is seen by the next test, so the first twin stays.
+    openEnded.sort();
+    for (auto it = openEnded.crbegin(); it != openEnded.crend(); ++it) {
+        const ZTDiscountLimit& limit = *it;
         const bool hasTwin = std::any_of(cbegin(), cend(), [&limit](const ZTDiscountLimit& other) {
             return other.discountModel() == limit.discountModel() &&
                    other.lowerLimit() == limit.lowerLimit() && other != limit;

@@ -15,7 +15,8 @@ public:
 
     // An article's highest step is open-ended while another article may bound the same step:
     // drops each open-ended limit for which a different limit of the same model and lower limit
-    // exists.
+    // exists. Of several open-ended twins without a bounded one, the first in the limit list's
+    // order (the lowest level) stays.
     void removeZeroLimits();
     // Keeps only the limits of level 0.
     void removeAllNoneLevelZeroLimits();

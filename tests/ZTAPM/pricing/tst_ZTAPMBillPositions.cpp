@@ -143,27 +143,48 @@ private Q_SLOTS:
         QCOMPARE(goods.totalPrice(ZTAPMPriceKey(ZTOrderSource::onlineMailOrder())), ZTMoney(164));
     }
 
+    void addOnInheritsLevel_data()
+    {
+        QTest::addColumn<QList<int>>("articles");
+        QTest::addColumn<QList<int>>("levels");
+        QTest::addColumn<int>("amount");
+        QTest::addColumn<int>("level");
+
+        // Level 3 is beyond the add-on's ladder: its level 2 row applies. Level 1 is a gap, so
+        // level 0 applies. The order of the linked articles' positions does not count.
+        QTest::newRow("highest level last") << QList<int>{90022, 90021} << QList<int>{1, 3} << 200 << 2;
+        QTest::newRow("highest level first") << QList<int>{90021, 90022} << QList<int>{3, 1} << 200 << 2;
+        QTest::newRow("higher id, lower level") << QList<int>{90021, 90022} << QList<int>{1, 3} << 200 << 2;
+        QTest::newRow("higher id, lower level, reversed")
+            << QList<int>{90022, 90021} << QList<int>{3, 1} << 200 << 2;
+        QTest::newRow("both in the gap") << QList<int>{90022, 90021} << QList<int>{1, 1} << 300 << 0;
+    }
+
     // An add-on takes over the highest level its linked articles have reached in the bill.
     void addOnInheritsLevel()
     {
+        QFETCH(QList<int>, articles);
+        QFETCH(QList<int>, levels);
+        QFETCH(int, amount);
+        QFETCH(int, level);
+
         const ZTAPMDataBase* catalogue = ZTAPMDataBase::instance();
-        ZTProductAbstract* print = catalogue->productAbstract(ZTArticleId(90021));
-        ZTProductAbstract* other = catalogue->productAbstract(ZTArticleId(90022));
-        QVERIFY(print && other);
         const ZTAPMArticlePriceInfo addOn = ZTAPMObjects::instance()->priceInfo(ZTArticleId(90007));
         QVERIFY(addOn.product());
         const ZTAPMPriceKey key(ZTOrderSource::onlineMailOrder());
 
         ZTAPMBillPositionList bill;
         QCOMPARE(addOn.priceFor(key, 2, ZTMoney(0), &bill, nullptr), ZTMoney(300));
-        bill << new ZTAPMBillPosition(other, 10, 1, ZTDiscountLimit(ZTDiscountModelBulk, 1, 10, 99), 25, -1)
-             << new ZTAPMBillPosition(print, 100, 1, ZTDiscountLimit(ZTDiscountModelBulk, 3, 100, -1), 19,
-                                      -1);
-        // Level 3 is beyond the add-on's ladder: its level 2 row applies.
-        QCOMPARE(addOn.priceFor(key, 2, ZTMoney(0), &bill, nullptr), ZTMoney(200));
+        for (int i = 0; i < articles.size(); ++i) {
+            ZTProductAbstract* linked = catalogue->productAbstract(ZTArticleId(articles.at(i)));
+            QVERIFY(linked);
+            bill << new ZTAPMBillPosition(linked, 10, 1,
+                                          ZTDiscountLimit(ZTDiscountModelBulk, levels.at(i), 10, -1), 25, -1);
+        }
+        QCOMPARE(addOn.priceFor(key, 2, ZTMoney(0), &bill, nullptr), ZTMoney(amount));
         QCOMPARE(bill.size(), 4);
         QCOMPARE(bill.last()->product(), addOn.product());
-        QCOMPARE(bill.last()->discountLevel(), 2);
+        QCOMPARE(bill.last()->discountLevel(), level);
         // Without a bill nothing is inherited.
         QCOMPARE(addOn.priceFor(key, 2, ZTMoney(0), nullptr, nullptr), ZTMoney(300));
         qDeleteAll(bill);
@@ -171,27 +192,37 @@ private Q_SLOTS:
 
     void basketTransfer_data()
     {
+        QTest::addColumn<QList<int>>("ids");
         QTest::addColumn<QList<int>>("counts");
         QTest::addColumn<int>("unitHalf");
         QTest::addColumn<int>("baseHalf");
 
-        // A 500/100 twice, B 300/50 three times, C 900/70 none.
-        QTest::newRow("the first piece of the dearest pays the base") << QList<int>{2, 3} << 250 << 500;
-        QTest::newRow("one piece") << QList<int>{1} << 0 << 500;
+        // 90021 500/100, 90022 300/50, 90023 900/70, 90024 500/20, 90025 500/80.
+        const QList<int> abc{90021, 90022, 90023};
+        QTest::newRow("the first piece of the dearest pays the base")
+            << abc << QList<int>{2, 3} << 250 << 500;
+        QTest::newRow("one piece") << abc << QList<int>{1} << 0 << 500;
         // A product without pieces may lead the unit half, but the base half passes it over.
-        QTest::newRow("an empty entry leads") << QList<int>{2, 3, 0} << 280 << 500;
-        QTest::newRow("an empty entry takes off its unit price") << QList<int>{0, 1} << -50 << 300;
+        QTest::newRow("an empty entry leads") << abc << QList<int>{2, 3, 0} << 280 << 500;
+        QTest::newRow("an empty entry takes off its unit price") << abc << QList<int>{0, 1} << -50 << 300;
+        // Equal base prices: the lower article id leads, whichever was added first.
+        QTest::newRow("tie, lower id added first")
+            << QList<int>{90024, 90025} << QList<int>{1, 1} << 80 << 500;
+        QTest::newRow("tie, lower id added last")
+            << QList<int>{90025, 90024} << QList<int>{1, 1} << 80 << 500;
+        QTest::newRow("tie of three") << QList<int>{90025, 90021, 90024} << QList<int>{1, 1, 1} << 100 << 500;
     }
 
     void basketTransfer()
     {
+        QFETCH(QList<int>, ids);
         QFETCH(QList<int>, counts);
         QFETCH(int, unitHalf);
         QFETCH(int, baseHalf);
 
         ZTAPMOrderStatistic basket;
         for (int i = 0; i < counts.size(); ++i)
-            basket.add(product(90021 + i), counts.at(i));
+            basket.add(product(ids.at(i)), counts.at(i));
         QDomDocument doc;
         QVERIFY(doc.setContent(QStringLiteral("<transfer id=\"90011\" model_id=\"2\"/>")));
         const ZTAPMArticlePriceInfo transfer = ZTAPMArticlePriceInfo::createFromXTCI(doc.documentElement());
