@@ -18,6 +18,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include <cstdio>
 
@@ -232,16 +233,33 @@ private Q_SLOTS:
         QVERIFY(!QSettings(settingsFile(), QSettings::IniFormat).contains(QStringLiteral("userPaymentType")));
     }
 
-    // Two programs that remember payments at the same time keep each other's choices.
+    // Two programs that remember payments at the same time keep each other's choices: once both
+    // at full speed, once with the point-of-sale program holding what it read while the other
+    // one saves, and saving only after that.
+    void twoProgramsSaving_data()
+    {
+        QTest::addColumn<bool>("staleReader");
+        QTest::newRow("at once") << false;
+        QTest::newRow("one holds what it read") << true;
+    }
     void twoProgramsSaving()
     {
+        QFETCH(bool, staleReader);
+        QSettings(settingsFile(), QSettings::IniFormat).remove(QStringLiteral("selectedPayments"));
+        QTemporaryDir goDirectory;
+        const QString go = goDirectory.path() + QStringLiteral("/go");
         QProcess mail;
         QProcess pointOfSale;
+        QStringList pointOfSaleArguments{QStringLiteral("--remember"), QStringLiteral("FC")};
+        if (staleReader)
+            pointOfSaleArguments << go;
+        pointOfSale.start(QCoreApplication::applicationFilePath(), pointOfSaleArguments);
+        if (staleReader)
+            QVERIFY(pointOfSale.waitForReadyRead(60000));
         mail.start(QCoreApplication::applicationFilePath(),
                    {QStringLiteral("--remember"), QStringLiteral("FM")});
-        pointOfSale.start(QCoreApplication::applicationFilePath(),
-                          {QStringLiteral("--remember"), QStringLiteral("FC")});
         QVERIFY(mail.waitForFinished(60000));
+        QFile(go).open(QIODevice::WriteOnly);
         QVERIFY(pointOfSale.waitForFinished(60000));
         QCOMPARE(mail.exitCode(), 0);
         QCOMPARE(pointOfSale.exitCode(), 0);
@@ -254,7 +272,7 @@ int main(int argc, char** argv)
 {
     ZTSingleton<ZTProgramConfig>::instance()->setKeyAccountDirectory(QStringLiteral(ZT_DEMO_DATA_DIR));
     QCoreApplication application(argc, argv);
-    if (argc == 3 && qstrcmp(argv[1], "--remember") == 0) {
+    if ((argc == 3 || argc == 4) && qstrcmp(argv[1], "--remember") == 0) {
         // In the settings directory of the parent, which it inherits.
         // Alternates between two payments of the source, ending with the second.
         const bool mail = qstrcmp(argv[2], "FM") == 0;
@@ -263,6 +281,13 @@ int main(int argc, char** argv)
         const ZTPaymentMethod first = mail ? method(source, 3) : method(source, 0);
         const ZTPaymentMethod second = mail ? method(source, 25) : method(source, 1, QStringLiteral("VISA"));
         ZTAPMSettings* settings = ZTSingleton<ZTAPMSettings>::instance();
+        // With a file name: read, say so, and save only once the file exists.
+        if (argc == 4) {
+            std::puts("read");
+            std::fflush(stdout);
+            for (int wait = 0; wait < 3000 && !QFile::exists(QString::fromLocal8Bit(argv[3])); ++wait)
+                QThread::msleep(20);
+        }
         for (int i = 0; i < 40; ++i)
             settings->setLastSelectedPayment(source, i % 2 == 0 ? first : second);
         return 0;
