@@ -13,12 +13,15 @@
 #include "ZTProgramConfig.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 #include <cstdio>
 
 int main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
+    // The engine reports its start-up at info level; a client usually wants its warnings only.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.info=false\ndefault.debug=false"));
     ZTProgramConfig* config = ZTSingleton<ZTProgramConfig>::instance();
     if (argc > 1)
         config->setKeyAccountDirectory(QString::fromLocal8Bit(argv[1]));
