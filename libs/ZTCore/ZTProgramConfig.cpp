@@ -3,8 +3,10 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMutexLocker>
+#include <QStringList>
 
 #include <cctype>
 
@@ -88,7 +90,7 @@ QString ZTProgramConfig::defaultKeyAccountDirectory()
 {
     // An installed program finds the copy installed with it, first beside its own binary, then
     // beside this library, then where the build meant to install it; a program run from the build
-    // tree finds none of these and takes the sources'.
+    // tree normally finds none of these and takes the sources'.
     QStringList installed;
     if (QCoreApplication::instance() != nullptr)
         installed << QCoreApplication::applicationDirPath() + QStringLiteral("/" ZT_DEMO_DIR_FROM_BINDIR);
