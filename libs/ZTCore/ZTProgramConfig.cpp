@@ -1,11 +1,16 @@
 #include "ZTProgramConfig.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMutexLocker>
+#include <QStringList>
 
 #include <cctype>
+
+#include <dlfcn.h>
 
 namespace {
 
@@ -16,6 +21,16 @@ const char desKeyVariable[] = "ZTAPM_DES_KEY";
 QString absoluteClean(const QString& thePath)
 {
     return QDir::cleanPath(QFileInfo(thePath).absoluteFilePath());
+}
+
+// The directory of the file this library was loaded from.
+QString libraryDirectory()
+{
+    static const char anchor = 0;
+    Dl_info info;
+    if (dladdr(&anchor, &info) == 0 || info.dli_fname == nullptr)
+        return QString();
+    return QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath();
 }
 
 } // namespace
@@ -73,11 +88,20 @@ void ZTProgramConfig::setKeyAccountDirectory(const QString& theDirectory)
 
 QString ZTProgramConfig::defaultKeyAccountDirectory()
 {
-    // Both paths come from the build: an installed program finds its own copy, a program run
-    // from the build tree the sources'.
-    const QString installed = QStringLiteral(ZT_INSTALLED_DEMO_DIR);
-    if (QFileInfo(installed).isDir())
-        return absoluteClean(installed);
+    // An installed program finds the copy installed with it, first beside its own binary, then
+    // beside this library, then where the build meant to install it; a program run from the build
+    // tree normally finds none of these and takes the sources'.
+    QStringList installed;
+    if (QCoreApplication::instance() != nullptr)
+        installed << QCoreApplication::applicationDirPath() + QStringLiteral("/" ZT_DEMO_DIR_FROM_BINDIR);
+    const QString library = libraryDirectory();
+    if (!library.isEmpty())
+        installed << library + QStringLiteral("/" ZT_DEMO_DIR_FROM_LIBDIR);
+    installed << QStringLiteral(ZT_INSTALLED_DEMO_DIR);
+    for (const QString& directory : std::as_const(installed)) {
+        if (QFileInfo(directory).isDir())
+            return absoluteClean(directory);
+    }
     return absoluteClean(QStringLiteral(ZT_SOURCE_DEMO_DIR));
 }
 

@@ -14,8 +14,9 @@
 // without a restart.
 //
 // - programID(): ZTAPM_PROGRAM_ID, default 1.
-// - keyAccountDirectory(): ZTAPM_DATA_DIR, default the demo key account (the installed
-//   share/ztapm/demo, or the source tree's data/demo when that is not installed).
+// - keyAccountDirectory(): ZTAPM_DATA_DIR, default the demo key account: the installed
+//   share/ztapm/demo, found relative to the program's binary, to this library or at the configured
+//   prefix, in this order; the source tree's data/demo when none of them exists.
 // - desKey(): ZTAPM_DES_KEY as 16 hex digits, default defaultDesKey().
 class ZTCORE_EXPORT ZTProgramConfig : public ZTSingleton<ZTProgramConfig>
 {

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -78,6 +79,54 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo(target).exists());
         QCOMPARE(prices.fileInfo(true, target).filePath(), target + QStringLiteral("/prices.xml"));
         QVERIFY(QFileInfo(target).isDir());
+    }
+
+    // An installed tree finds its own demo key account wherever it was installed: a copy of this
+    // program is put into a fresh prefix, beside or away from a copy of ZTCore, and asked for
+    // the default directory (see defaultDirectoryOfCopy).
+    void demoFoundBesideTheInstallation_data()
+    {
+        QTest::addColumn<QString>("programDir");
+        QTest::addColumn<bool>("withLibrary");
+        QTest::newRow("beside the program") << ZT_INSTALL_BINDIR << false;
+        QTest::newRow("beside the library") << "elsewhere/bin" << true;
+    }
+    void demoFoundBesideTheInstallation()
+    {
+        QFETCH(QString, programDir);
+        QFETCH(bool, withLibrary);
+        if (!qEnvironmentVariableIsEmpty("ZT_EXPECTED_DEMO_DIR"))
+            QSKIP("run as the installed copy");
+        QTemporaryDir prefix;
+        const QDir root(prefix.path());
+        const QString demo = root.filePath(QStringLiteral(ZT_INSTALL_DATADIR "/ztapm/demo"));
+        const QString program = root.filePath(programDir + QStringLiteral("/tst_ZTKeyAccount"));
+        QVERIFY(root.mkpath(demo) && root.mkpath(programDir));
+        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("ZT_EXPECTED_DEMO_DIR"), demo);
+        if (withLibrary) {
+            const QString libraryDir = root.filePath(QStringLiteral(ZT_INSTALL_LIBDIR));
+            QVERIFY(root.mkpath(libraryDir));
+            QVERIFY(QFile::copy(QStringLiteral(ZT_CORE_LIBRARY),
+                                libraryDir + QStringLiteral("/" ZT_CORE_SONAME)));
+            // Ahead of the build tree's run path, so the copy is the ZTCore that is loaded.
+            environment.insert(QStringLiteral("LD_LIBRARY_PATH"), libraryDir);
+        }
+        QProcess copy;
+        copy.setProcessEnvironment(environment);
+        copy.start(program, {QStringLiteral("defaultDirectoryOfCopy")});
+        QVERIFY(copy.waitForFinished(60000));
+        QVERIFY2(copy.exitStatus() == QProcess::NormalExit && copy.exitCode() == 0,
+                 copy.readAllStandardOutput().constData());
+    }
+    // The half of the test above that runs in the installed copy.
+    void defaultDirectoryOfCopy()
+    {
+        const QString expected = qEnvironmentVariable("ZT_EXPECTED_DEMO_DIR");
+        if (expected.isEmpty())
+            QSKIP("only run as the installed copy");
+        QCOMPARE(ZTProgramConfig::defaultKeyAccountDirectory(), expected);
     }
 
     void programID()
