@@ -173,6 +173,7 @@ private Q_SLOTS:
         QTest::newRow("the largest level") << QStringList{"price", "91003", "60"} << 4800 << false;
         QTest::newRow("bound of the smallest integer") << QStringList{"price", "91004", "1"} << 90 << false;
         QTest::newRow("photos beyond that bound") << QStringList{"price", "91005", "5"} << -1 << true;
+        QTest::newRow("only a level far up") << QStringList{"price", "91006", "1"} << 70 << false;
         QTest::newRow("the catalogue walks the ladders") << QStringList{"catalogue"} << 0 << false;
     }
     // Answers at once, no wrapped amount: a total that does not fit is no price, with the
