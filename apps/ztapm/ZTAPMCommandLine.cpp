@@ -12,6 +12,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QJsonDocument>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTextStream>
 
@@ -45,6 +46,7 @@ int ZTAPMCommandLine::run(const QStringList& theArguments)
     const QCommandLineOption verboseOption(QStringLiteral("verbose"),
                                            QStringLiteral("Show the engine's log."));
     parser.addOptions({dataOption, jsonOption, verboseOption});
+    QStringList valueOptions = dataOption.names();
     // Every command's options, each once: two commands may share one.
     QSet<QString> optionNames;
     for (const auto& command : myCommands) {
@@ -52,12 +54,14 @@ int ZTAPMCommandLine::run(const QStringList& theArguments)
             if (!optionNames.contains(option.names().first())) {
                 optionNames.insert(option.names().first());
                 parser.addOption(option);
+                if (!option.valueName().isEmpty())
+                    valueOptions.append(option.names());
             }
         }
     }
     parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("What to do (see above)."),
                                  QStringLiteral("[command] [arguments]"));
-    if (!parser.parse(theArguments))
+    if (!parser.parse(negativeNumbersAsArguments(theArguments, valueOptions)))
         return ZTAPMCommand::fail(ZTAPMCommand::UsageError, parser.errorText());
     if (parser.isSet(QStringLiteral("help")))
         parser.showHelp(ZTAPMCommand::Success);
@@ -120,6 +124,36 @@ QString ZTAPMCommandLine::commandsHelp() const
            QStringLiteral("Order sources (--source): %1.\n"
                           "Exit status: 0 done, 2 usage error, 3 data directory or article not found.")
                .arg(ZTAPMCommand::orderSourcesHelp());
+}
+
+QStringList ZTAPMCommandLine::negativeNumbersAsArguments(const QStringList& theArguments,
+                                                         const QStringList& theValueOptions)
+{
+    static const QRegularExpression negativeNumber(QStringLiteral("^-[0-9]+$"));
+    QStringList options;
+    QStringList positional;
+    bool movedOne = false;
+    for (int i = 0; i < theArguments.size(); ++i) {
+        const QString& argument = theArguments.at(i);
+        if (i == 0 || (argument.startsWith(QLatin1Char('-')) && argument != QLatin1String("-") &&
+                       !negativeNumber.match(argument).hasMatch())) {
+            if (argument == QLatin1String("--")) {
+                positional.append(theArguments.mid(i + 1));
+                break;
+            }
+            options.append(argument);
+            // "--sum -5": the value belongs to its option, whatever it looks like.
+            const QString name = argument.mid(argument.startsWith(QLatin1String("--")) ? 2 : 1);
+            if (i > 0 && theValueOptions.contains(name) && i + 1 < theArguments.size())
+                options.append(theArguments.at(++i));
+            continue;
+        }
+        movedOne = movedOne || argument.startsWith(QLatin1Char('-'));
+        positional.append(argument);
+    }
+    if (!movedOne)
+        return theArguments;
+    return options + QStringList{QStringLiteral("--")} + positional;
 }
 
 int ZTAPMCommandLine::checkForeignOptions(const ZTAPMCommand& theCommand,

@@ -29,6 +29,11 @@ private:
     }
     ZTAPMCommand* command(const QString& theName) const;
     QString commandsHelp() const;
+    // The arguments with every negative number ("-1") that is no option's value moved behind a
+    // "--", positional arguments keeping their order, so that a count of -1 reaches its command
+    // instead of reading as an option "1". theValueOptions: names of the options that take a value.
+    static QStringList negativeNumbersAsArguments(const QStringList& theArguments,
+                                                  const QStringList& theValueOptions);
     // Usage error for an option that belongs to other commands only, else Success.
     int checkForeignOptions(const ZTAPMCommand& theCommand, const QCommandLineParser& theParser) const;
 

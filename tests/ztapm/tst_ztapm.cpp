@@ -124,6 +124,13 @@ private Q_SLOTS:
         QTest::newRow("bad count") << QStringList{QStringLiteral("price"), QStringLiteral("90001"),
                                                   QStringLiteral("2.5")}
                                    << 2 << "no number of pieces";
+        QTest::newRow("negative count")
+            << QStringList{QStringLiteral("price"), QStringLiteral("90001"), QStringLiteral("-1")} << 2
+            << "'-1' is no number of pieces";
+        QTest::newRow("negative sum")
+            << QStringList{QStringLiteral("price"), QStringLiteral("90001"), QStringLiteral("1"),
+                           QStringLiteral("--sum"), QStringLiteral("-5")}
+            << 2 << "'-5' is no goods' sum";
         QTest::newRow("bad source") << QStringList{QStringLiteral("price"), QStringLiteral("90001"),
                                                    QStringLiteral("1"), QStringLiteral("--source"),
                                                    QStringLiteral("cd-mail")}
@@ -160,6 +167,45 @@ private Q_SLOTS:
         QVERIFY2(run.err.startsWith("ztapm: "), run.err.constData());
         QVERIFY2(QString::fromUtf8(run.err).contains(message), run.err.constData());
         QVERIFY(run.out.isEmpty());
+    }
+
+    void hostilePrices_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("amount");
+        QTest::addColumn<bool>("warns");
+
+        QTest::newRow("total beyond 32 bits") << QStringList{"price", "91001", "1000000"} << -1 << true;
+        QTest::newRow("level just below the largest") << QStringList{"price", "91002", "60"} << 4800 << false;
+        QTest::newRow("the largest level") << QStringList{"price", "91003", "60"} << 4800 << false;
+        QTest::newRow("bound of the smallest integer") << QStringList{"price", "91004", "1"} << 90 << false;
+        QTest::newRow("photos beyond that bound") << QStringList{"price", "91005", "5"} << -1 << true;
+        QTest::newRow("only a level far up") << QStringList{"price", "91006", "1"} << 70 << false;
+        QTest::newRow("the catalogue walks the ladders") << QStringList{"catalogue"} << 0 << false;
+    }
+    // Answers at once, no wrapped amount: a total that does not fit is no price, with the
+    // engine's warning on stderr and the exit status of any other missing price.
+    void hostilePrices()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, amount);
+        QFETCH(bool, warns);
+        const Run run =
+            ztapm(arguments << QStringLiteral("--data") << QStringLiteral(ZT_TEST_DATA_DIR "/hostile-prices")
+                            << QStringLiteral("--json"));
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.err.contains("does not fit in 32 bits: no price"), warns);
+        if (arguments.first() == QLatin1String("price"))
+            QCOMPARE(run.json()[QStringLiteral("amount")].toInt(), amount);
+    }
+
+    void demoMillionPiecesHaveNoPrice()
+    {
+        const Run run = ztapm({QStringLiteral("price"), QStringLiteral("1001"), QStringLiteral("1000000")});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY2(run.out.contains("Amount: no price"), run.out.constData());
+        QVERIFY2(run.err.contains("The amount of article 1001 for 1000000 piece(s) does not fit in 32 bits"),
+                 run.err.constData());
     }
 
     // Every command's output, text and JSON, against the golden files under tests/data/ztapm-*/.

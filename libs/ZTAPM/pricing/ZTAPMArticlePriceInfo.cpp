@@ -195,12 +195,15 @@ ZTMoney ZTAPMArticlePriceInfo::unitTransferPrice(const ZTAPMPriceKey& theKey) co
 
 int ZTAPMArticlePriceInfo::bestDiscountLevel(const ZTAPMPriceKey& theKey, int theQuantity) const
 {
+    // Only the levels that the key's ladder has, the highest first: a row far up the ladder
+    // costs one lookup, not one per level below it.
+    const QList<int> levels = myPriceValues.levels(theKey.orderSource(), theKey.discountModel());
     ZTAPMPriceKey key(theKey);
-    for (int level = maxDiscountLevel(); level >= 1; --level) {
-        key.setDiscountLevel(level);
+    for (auto it = levels.crbegin(); it != levels.crend() && *it >= 1; ++it) {
+        key.setDiscountLevel(*it);
         const ZTAPMPriceValue value = priceValue(key);
         if (value.isValid() && value.lowerLimit() <= theQuantity)
-            return level;
+            return *it;
     }
     return 0;
 }
@@ -210,7 +213,10 @@ ZTPriceBundle ZTAPMArticlePriceInfo::pricesAtBound(const ZTAPMPriceKey& theKey,
 {
     ZTAPMPriceKey key(theKey);
     key.setDiscountModel(theLimit.discountModel());
-    for (int level = 0; level <= maxDiscountLevel(); ++level) {
+    const QList<int> levels = myPriceValues.levels(key.orderSource(), key.discountModel());
+    for (const int level : levels) {
+        if (level < 0)
+            continue;
         key.setDiscountLevel(level);
         const ZTAPMPriceValue value = priceValue(key);
         // Either test suffices: an article with other bounds than the shown ladder still

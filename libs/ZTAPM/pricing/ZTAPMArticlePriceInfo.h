@@ -19,6 +19,7 @@
 class QDebug;
 class QDomElement;
 class ZTAPMBillPosition;
+class ZTAPMBillPositionAbstract;
 class ZTAPMBillPositionList;
 class ZTAPMOrderStatistic;
 class ZTProductAbstract;
@@ -194,6 +195,10 @@ private:
     // The key under which the search tries theModel: level 0, or the inherited level for "I".
     static ZTAPMPriceKey candidateKey(const ZTAPMPriceKey& theKey, const ZTDiscountModel& theModel,
                                       int theInheritedLevel);
+    // The position of theUnitCount pieces of theValue's row that came to theAmount; an invalid
+    // one where the row prices but the amount did not fit.
+    ZTAPMBillPositionAbstract* pricedPosition(const ZTMoney& theAmount, int theUnitCount,
+                                              const ZTAPMPriceValue& theValue) const;
     // "f" and "x": one amount for the quantity, from the key's model.
     ZTMoney priceFlat(const ZTAPMPriceKey& theKey, int theCount, ZTAPMBillPositionList* theList) const;
     // The highest level that the linked articles of this add-on have reached in theBill; 0 for

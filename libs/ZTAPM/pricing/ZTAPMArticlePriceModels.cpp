@@ -10,12 +10,56 @@
 #include "ZTAPMOrderStatistic.h"
 #include "ZTProductAbstract.h"
 
+#include <QDebug>
+
 namespace {
 
-ZTMoney times(ZTMoney theMoney, int theFactor)
+// Price questions nest: the search for the best model prices the article in every model, and
+// the chosen model is priced once more for the answer. An amount that does not fit is noted for
+// the question running on this thread, and only the outermost question warns, once.
+thread_local int theQuestionDepth = 0;
+thread_local bool theAmountDidNotFit = false;
+
+class PriceQuestion
 {
-    theMoney *= theFactor;
-    return theMoney;
+public:
+    PriceQuestion()
+    {
+        if (theQuestionDepth++ == 0)
+            theAmountDidNotFit = false;
+    }
+    ~PriceQuestion() { --theQuestionDepth; }
+    Q_DISABLE_COPY_MOVE(PriceQuestion)
+
+    // The answer, with the warning where it is no price because an amount did not fit.
+    ZTMoney answer(const ZTMoney& theAmount, const ZTArticleId& theArticleId, int theCount) const
+    {
+        if (theQuestionDepth == 1 && theAmountDidNotFit && theAmount == ZTMoney(ZTMoney::noPrice))
+            qWarning().noquote() << QStringLiteral("The amount of article %1 for %2 piece(s) does not fit "
+                                                   "in 32 bits: no price")
+                                        .arg(theArticleId.id())
+                                        .arg(theCount);
+        return theAmount;
+    }
+};
+
+// theUnitPrice times theFactor plus theAddend, exactly; no price, noted, where the result
+// cannot be an amount. The factor may be a difference of two counts, so it takes 64 bits.
+ZTMoney exactAmount(const ZTMoney& theUnitPrice, qint64 theFactor, const ZTMoney& theAddend = ZTMoney(0))
+{
+    qint64 product = 0;
+    qint64 sum = 0;
+    if (__builtin_mul_overflow(qint64(theUnitPrice.value()), theFactor, &product) ||
+        __builtin_add_overflow(product, qint64(theAddend.value()), &sum) || !ZTMoney::fits(sum)) {
+        theAmountDidNotFit = true;
+        return ZTMoney(ZTMoney::noPrice);
+    }
+    return ZTMoney(qint32(sum));
+}
+
+ZTMoney times(const ZTMoney& theMoney, qint64 theFactor)
+{
+    return exactAmount(theMoney, theFactor);
 }
 
 // The price outside the offer, or the row's own price where no offer runs.
@@ -41,11 +85,13 @@ ZTMoney ZTAPMArticlePriceInfo::priceFor(const ZTAPMPriceKey& theKey, int theCoun
                                         const ZTMoney& theBillingSum, ZTAPMBillPositionList* theBill,
                                         const ZTAPMOrderStatistic* theStatistic) const
 {
+    const PriceQuestion question;
     if (myTransferModel == ZTTransferModelPerBasket)
-        return priceInTransferModel2(theKey, theStatistic, theBill);
+        return question.answer(priceInTransferModel2(theKey, theStatistic, theBill), myArticleId, theCount);
     const int inheritedLevel = theBill ? inheritedDiscountLevel(*theBill) : 0;
-    return priceInModel(chosenKey(theKey, theCount, theBillingSum, inheritedLevel), theCount, theBillingSum,
-                        theBill);
+    return question.answer(priceInModel(chosenKey(theKey, theCount, theBillingSum, inheritedLevel), theCount,
+                                        theBillingSum, theBill),
+                           myArticleId, theCount);
 }
 
 ZTAPMPriceKey ZTAPMArticlePriceInfo::chosenKey(const ZTAPMPriceKey& theKey, int theCount,
@@ -74,6 +120,7 @@ ZTAPMPriceExplanation ZTAPMArticlePriceInfo::explainPrice(const ZTAPMPriceKey& t
                                                           const ZTMoney& theBillingSum,
                                                           const ZTAPMOrderStatistic* theStatistic) const
 {
+    const PriceQuestion question;
     const bool expressFee = theKey.discountModel() == ZTDiscountModelExpressFee;
     QList<ZTAPMPriceExplanation::Candidate> candidates;
     for (const ZTDiscountModel& model : myDiscountModelsInOrder) {
@@ -94,7 +141,7 @@ ZTAPMPriceExplanation ZTAPMArticlePriceInfo::explainPrice(const ZTAPMPriceKey& t
     }
     if (amount == ZTMoney(ZTMoney::noPrice))
         chosen = ZTDiscountModel();
-    return ZTAPMPriceExplanation(chosen, amount, candidates);
+    return ZTAPMPriceExplanation(chosen, question.answer(amount, myArticleId, theCount), candidates);
 }
 
 int ZTAPMArticlePriceInfo::inheritedDiscountLevel(const ZTAPMBillPositionList& theBill) const
@@ -120,6 +167,7 @@ ZTMoney ZTAPMArticlePriceInfo::priceInModel(const ZTAPMPriceKey& theKey, int the
                                             const ZTMoney& theBillingSum,
                                             ZTAPMBillPositionList* theBill) const
 {
+    const PriceQuestion question;
     ZTAPMBillPositionList positions;
     ZTAPMBillPositionList* list = theBill ? &positions : nullptr;
     ZTMoney result;
@@ -150,13 +198,15 @@ ZTMoney ZTAPMArticlePriceInfo::priceInModel(const ZTAPMPriceKey& theKey, int the
     }
     if (theBill)
         theBill->append(positions);
-    return result;
+    return question.answer(result, myArticleId, theCount);
 }
 
 ZTDiscountModel ZTAPMArticlePriceInfo::bestDiscountModel(const ZTAPMPriceKey& theKey, int theCount,
                                                          const ZTMoney& theBillingSum,
                                                          int theInheritedLevel) const
 {
+    // A question of its own, so that the models it tries do not warn.
+    const PriceQuestion question;
     ZTMoney bestPrice(ZTMoney::notSet);
     ZTDiscountModel bestModel;
     for (const ZTDiscountModel& model : myDiscountModelsInOrder) {
@@ -183,9 +233,10 @@ ZTMoney ZTAPMArticlePriceInfo::transferPriceFor(const ZTAPMPriceKey& theKey, int
 {
     if (myTransferModel == ZTTransferModelPerBasket)
         return baseTransferPriceInTransferModel2(theKey, theStatistic);
+    const PriceQuestion question;
     ZTAPMPriceKey key(theKey);
     key.setDiscountModel(bestDiscountModel(theKey, theCount, theBillingSum, 0));
-    return priceInModel(key, theCount, theBillingSum, nullptr);
+    return question.answer(priceInModel(key, theCount, theBillingSum, nullptr), myArticleId, theCount);
 }
 
 ZTMoney ZTAPMArticlePriceInfo::priceBulk(const ZTAPMPriceKey& theKey, int theCount,
@@ -194,9 +245,10 @@ ZTMoney ZTAPMArticlePriceInfo::priceBulk(const ZTAPMPriceKey& theKey, int theCou
     ZTAPMPriceKey key(theKey);
     key.setDiscountLevel(bestDiscountLevel(theKey, theCount));
     const ZTAPMPriceValue value = priceValue(key);
+    const ZTMoney amount = value.isValid() ? times(value.price(), theCount) : ZTMoney(ZTMoney::noPrice);
     if (theList)
-        theList->append(createBillPosition(theCount, 1, value));
-    return value.isValid() ? times(value.price(), theCount) : ZTMoney(ZTMoney::noPrice);
+        theList->append(pricedPosition(amount, theCount, value));
+    return amount;
 }
 
 ZTMoney ZTAPMArticlePriceInfo::priceBulkTransfer(const ZTAPMPriceKey& theKey, int theCount,
@@ -248,17 +300,22 @@ ZTMoney ZTAPMArticlePriceInfo::priceInheritedDiscount(const ZTAPMPriceKey& theKe
                                                       ZTAPMBillPositionList* theList) const
 {
     // An add-on's ladder may be shorter than its article's: the nearest lower level applies.
+    // Only the levels the ladder has, so an inherited level far above it costs nothing.
+    const QList<int> levels = myPriceValues.levels(theKey.orderSource(), theKey.discountModel());
     ZTAPMPriceKey key(theKey);
     ZTAPMPriceValue value;
-    for (int level = key.discountLevel(); level >= 0; --level) {
-        key.setDiscountLevel(level);
+    for (auto it = levels.crbegin(); it != levels.crend() && *it >= 0; ++it) {
+        if (*it > theKey.discountLevel())
+            continue;
+        key.setDiscountLevel(*it);
         value = priceValue(key);
         if (value.isValid())
             break;
     }
+    const ZTMoney amount = value.isValid() ? times(value.price(), theCount) : ZTMoney(ZTMoney::noPrice);
     if (theList)
-        theList->append(createBillPosition(theCount, 1, value));
-    return value.isValid() ? times(value.price(), theCount) : ZTMoney(ZTMoney::noPrice);
+        theList->append(pricedPosition(amount, theCount, value));
+    return amount;
 }
 
 ZTMoney ZTAPMArticlePriceInfo::priceFotoPackage(const ZTAPMPriceKey& theKey, int theCount,
@@ -282,21 +339,20 @@ ZTMoney ZTAPMArticlePriceInfo::priceFotoPackage(const ZTAPMPriceKey& theKey, int
         ZTAPMPriceKey baseKey(theKey);
         baseKey.setDiscountLevel(1);
         const ZTAPMPriceValue base = priceValue(baseKey);
-        const int further = theCount - base.upperLimit();
-        total = times(value.price(), further);
-        total += base.price();
-        if (!base.nonOfferPrice().isValid() && !value.nonOfferPrice().isValid()) {
+        const qint64 further = qint64(theCount) - base.upperLimit();
+        total = exactAmount(value.price(), further, base.price());
+        if (!base.nonOfferPrice().isValid() && !value.nonOfferPrice().isValid())
             nonOfferTotal = ZTMoney(ZTMoney::noPrice);
-        } else {
-            nonOfferTotal = times(orOfferPrice(value), further);
-            nonOfferTotal += orOfferPrice(base);
-        }
+        else
+            nonOfferTotal = exactAmount(orOfferPrice(value), further, orOfferPrice(base));
     } else {
         // Within the base package: the same price for any number of photos.
         total = value.price();
         nonOfferTotal = value.nonOfferPrice();
     }
-    if (theList)
+    if (theList && total == ZTMoney(ZTMoney::noPrice))
+        theList->append(new ZTAPMBillPositionInvalid(product()));
+    else if (theList)
         theList->append(createBillPosition(1, theCount, value.discountLimit(), total, nonOfferTotal));
     return total;
 }
@@ -306,9 +362,14 @@ ZTMoney ZTAPMArticlePriceInfo::priceInTransferModel2(const ZTAPMPriceKey& theKey
                                                      ZTAPMBillPositionList* theBill) const
 {
     const ZTAPMPriceKey key(theKey, ZTDiscountModelBulk);
-    ZTMoney result = unitTransferPriceInTransferModel2(key, theStatistic);
-    result += baseTransferPriceInTransferModel2(key, theStatistic);
-    if (theBill) {
+    const ZTMoney unitHalf = unitTransferPriceInTransferModel2(key, theStatistic);
+    const ZTMoney result =
+        unitHalf == ZTMoney(ZTMoney::noPrice)
+            ? unitHalf
+            : exactAmount(baseTransferPriceInTransferModel2(key, theStatistic), 1, unitHalf);
+    if (theBill && result == ZTMoney(ZTMoney::noPrice)) {
+        theBill->append(new ZTAPMBillPositionInvalid(product()));
+    } else if (theBill) {
         const ZTDiscountLimit limit(ZTDiscountModelBasketTransfer, 0, 0, -1);
         theBill->append(createBillPosition(1, 1, limit, result, ZTMoney(ZTMoney::noPrice)));
     }
@@ -348,11 +409,12 @@ ZTAPMArticlePriceInfo::unitTransferPriceInTransferModel2(const ZTAPMPriceKey& th
             leader = item.first;
             leaderBasePrice = basePrice;
         }
-        sum += times(item.first->unitTransferPrice(key), item.second);
+        if (sum != ZTMoney(ZTMoney::noPrice))
+            sum = exactAmount(item.first->unitTransferPrice(key), item.second, sum);
     }
     // One piece of the leading product is paid by the base price instead.
-    if (leader)
-        sum -= leader->unitTransferPrice(key);
+    if (leader && sum != ZTMoney(ZTMoney::noPrice))
+        sum = exactAmount(leader->unitTransferPrice(key), -1, sum);
     return sum;
 }
 
@@ -363,6 +425,15 @@ ZTAPMBillPosition* ZTAPMArticlePriceInfo::createBillPosition(int theUnitCount, i
 {
     return new ZTAPMBillPosition(product(), theUnitCount, theItemsPerUnit, theLimit, theUnitPrice,
                                  theNonOfferPrice);
+}
+
+ZTAPMBillPositionAbstract* ZTAPMArticlePriceInfo::pricedPosition(const ZTMoney& theAmount, int theUnitCount,
+                                                                 const ZTAPMPriceValue& theValue) const
+{
+    // A row that prices, yet whose amount does not fit, cannot stand in a bill.
+    if (theValue.isValid() && theAmount == ZTMoney(ZTMoney::noPrice))
+        return new ZTAPMBillPositionInvalid(product());
+    return createBillPosition(theUnitCount, 1, theValue);
 }
 
 ZTAPMBillPosition* ZTAPMArticlePriceInfo::createBillPosition(int theUnitCount, int theItemsPerUnit,

@@ -4,15 +4,25 @@
 #include "ZTProductAbstract.h"
 
 #include <algorithm>
+#include <climits>
 
 ZTAPMOrderStatistic::ZTAPMOrderStatistic() = default;
 ZTAPMOrderStatistic::ZTAPMOrderStatistic(const ZTAPMOrderStatistic& theOther) = default;
 ZTAPMOrderStatistic& ZTAPMOrderStatistic::operator=(const ZTAPMOrderStatistic& theOther) = default;
 ZTAPMOrderStatistic::~ZTAPMOrderStatistic() = default;
 
+namespace {
+// Counts stop at the ends of the integers instead of wrapping; such a count has no price anyway.
+int saturated(qint64 theCount)
+{
+    return int(qBound(qint64(INT_MIN), theCount, qint64(INT_MAX)));
+}
+} // namespace
+
 void ZTAPMOrderStatistic::add(ZTProductAbstract* theProduct, int theCount)
 {
-    myItems[theProduct] += theCount;
+    int& count = myItems[theProduct];
+    count = saturated(qint64(count) + theCount);
 }
 
 void ZTAPMOrderStatistic::add(const ZTArticleId& theId, int theCount)
@@ -25,7 +35,7 @@ void ZTAPMOrderStatistic::add(const ZTAPMOrderStatistic& theOther, int theFactor
     // A copy, so that adding a basket to itself does not walk a hash that is being written.
     const Items other = theOther.myItems;
     for (auto it = other.cbegin(); it != other.cend(); ++it)
-        add(it.key(), it.value() * theFactor);
+        add(it.key(), saturated(qint64(it.value()) * theFactor));
 }
 
 int ZTAPMOrderStatistic::countItems(const ZTProductAbstract* theProduct, int theDefault) const
@@ -57,11 +67,12 @@ ZTProductList ZTAPMOrderStatistic::products() const
 
 ZTMoney ZTAPMOrderStatistic::totalPrice(const ZTAPMPriceKey& theKey) const
 {
-    ZTMoney result(0);
+    // Exact in 64 bits: a sum that leaves an amount's range is no price, however it continues.
+    qint64 result = 0;
     for (auto it = myItems.cbegin(); it != myItems.cend(); ++it) {
-        ZTMoney price = it.key()->price(theKey, 1, ZTMoney(1));
-        price *= it.value();
-        result += price;
+        const qint64 price = it.key()->price(theKey, 1, ZTMoney(1)).value();
+        if (__builtin_add_overflow(result, price * it.value(), &result))
+            return ZTMoney(ZTMoney::noPrice);
     }
-    return result;
+    return ZTMoney::fromAmount(result);
 }

@@ -1,6 +1,7 @@
 #include "ZTAPMPriceValues.h"
 
 #include <algorithm>
+#include <climits>
 
 ZTAPMPriceValues::ZTAPMPriceValues() = default;
 ZTAPMPriceValues::ZTAPMPriceValues(const ZTAPMPriceValues& theOther) = default;
@@ -13,14 +14,42 @@ ZTAPMPriceValue ZTAPMPriceValues::value(const ZTAPMPriceKey& theKey) const
     return it != myValues.cend() ? it.value() : ZTAPMPriceValue();
 }
 
+ZTAPMPriceValues::LadderId ZTAPMPriceValues::ladderId(const ZTOrderSource& theOrderSource,
+                                                      const ZTDiscountModel& theModel)
+{
+    return {{int(theOrderSource.inputSource().value()), int(theOrderSource.deliveryType().value())},
+            int(theModel.value())};
+}
+
+ZTAPMPriceValues::LadderId ZTAPMPriceValues::ladderId(const ZTAPMPriceKey& theKey)
+{
+    return ladderId(theKey.orderSource(), theKey.discountModel());
+}
+
+void ZTAPMPriceValues::addLevel(const ZTAPMPriceKey& theKey)
+{
+    QList<int>& levels = myLevels[ladderId(theKey)];
+    const auto it = std::lower_bound(levels.begin(), levels.end(), theKey.discountLevel());
+    if (it == levels.end() || *it != theKey.discountLevel())
+        levels.insert(it, theKey.discountLevel());
+}
+
+QList<int> ZTAPMPriceValues::levels(const ZTOrderSource& theOrderSource,
+                                    const ZTDiscountModel& theModel) const
+{
+    return myLevels.value(ladderId(theOrderSource, theModel));
+}
+
 void ZTAPMPriceValues::insert(const ZTAPMPriceKey& theKey, const ZTAPMPriceValue& theValue)
 {
     myValues.insert(theKey, theValue);
+    addLevel(theKey);
     myMaxDiscountLevel = std::max(myMaxDiscountLevel, qint32(theValue.discountLevel()));
 }
 
 ZTAPMPriceValue& ZTAPMPriceValues::operator[](const ZTAPMPriceKey& theKey)
 {
+    addLevel(theKey);
     return myValues[theKey];
 }
 
@@ -30,9 +59,12 @@ ZTAPMPriceValues ZTAPMPriceValues::unite(const ZTAPMPriceValues& theOther)
         return *this;
     if (myValues.isEmpty()) {
         myValues = theOther.myValues;
+        myLevels = theOther.myLevels;
     } else {
-        for (auto it = theOther.myValues.cbegin(); it != theOther.myValues.cend(); ++it)
+        for (auto it = theOther.myValues.cbegin(); it != theOther.myValues.cend(); ++it) {
             myValues.insert(it.key(), it.value());
+            addLevel(it.key());
+        }
     }
     for (const ZTAPMPriceValue& value : std::as_const(myValues))
         myMaxDiscountLevel = std::max(myMaxDiscountLevel, qint32(value.discountLevel()));
@@ -42,6 +74,7 @@ ZTAPMPriceValues ZTAPMPriceValues::unite(const ZTAPMPriceValues& theOther)
 void ZTAPMPriceValues::clear()
 {
     myValues.clear();
+    myLevels.clear();
     myMaxDiscountLevel = 0;
 }
 
@@ -58,10 +91,16 @@ bool ZTAPMPriceValues::operator!=(const ZTAPMPriceValues& theOther) const
 
 int ZTAPMPriceValues::countItemsAtUpperBound(const ZTAPMPriceKey& theKey) const
 {
+    // The highest level has no level above it, and a bound of the smallest integer has no
+    // quantity below it: the upper bound then stays at that integer.
+    if (theKey.discountLevel() == INT_MAX)
+        return -1;
     ZTAPMPriceKey nextLevel(theKey);
     nextLevel.setDiscountLevel(theKey.discountLevel() + 1);
     const ZTAPMPriceValue next = value(nextLevel);
-    return next.isValid() ? next.lowerLimit() - 1 : -1;
+    if (!next.isValid())
+        return -1;
+    return next.lowerLimit() == INT_MIN ? INT_MIN : next.lowerLimit() - 1;
 }
 
 ZTAPMPriceValues ZTAPMPriceValues::fixedUpperLimits() const

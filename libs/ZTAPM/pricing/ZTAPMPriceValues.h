@@ -9,6 +9,8 @@
 #include <QList>
 #include <QSet>
 
+#include <utility>
+
 // An article's price table: one row per order source, discount level and model. Lookups are
 // exact; a missing row is an invalid value.
 class ZTAPM_EXPORT ZTAPMPriceValues
@@ -27,6 +29,9 @@ public:
     // All rows, for walks that need keys and values together.
     const Rows& rows() const { return myValues; }
     int count() const { return int(myValues.size()); }
+    // The levels that rows of this order source and model stand at, ascending; empty if none.
+    // Walks over levels go through these, so their work depends on the rows, not on the numbers.
+    QList<int> levels(const ZTOrderSource& theOrderSource, const ZTDiscountModel& theModel) const;
     bool isEmpty() const { return myValues.isEmpty(); }
 
     // Replaces a row of an equal key and raises the maximum level to the value's level.
@@ -59,7 +64,15 @@ public:
     ZTDiscountLimit fotoBasePackageLimit(const ZTOrderSource& theOrderSource) const;
 
 private:
+    // Order source and model of a key, the address of one ladder.
+    using LadderId = std::pair<std::pair<int, int>, int>;
+    static LadderId ladderId(const ZTAPMPriceKey& theKey);
+    static LadderId ladderId(const ZTOrderSource& theOrderSource, const ZTDiscountModel& theModel);
+    void addLevel(const ZTAPMPriceKey& theKey);
+
     Rows myValues;
+    // Every key's level by ladder, sorted; kept with the rows.
+    QHash<LadderId, QList<int>> myLevels;
     qint32 myMaxDiscountLevel = 0;
 };
 

@@ -12,12 +12,6 @@
 
 namespace {
 const QString DEFAULT_PRICE_ID_KEY = QStringLiteral("price");
-
-// Wraps like the hardware: sums beyond 32 bits are the caller's business, not undefined behaviour.
-qint32 wrapped(qint64 theValue)
-{
-    return qint32(quint32(quint64(theValue)));
-}
 } // namespace
 
 ZTMoney::ZTMoney(const QJsonObject& theObject) : myValue(theObject.value(DEFAULT_PRICE_ID_KEY).toInt(0))
@@ -71,19 +65,20 @@ QString ZTMoney::fullText(bool theWithSymbol, bool theHtml, bool theSecondary) c
 
 ZTMoney& ZTMoney::operator+=(const ZTMoney& theOther)
 {
-    myValue = wrapped(qint64(myValue) + theOther.myValue);
+    *this = fromAmount(qint64(myValue) + theOther.myValue);
     return *this;
 }
 
 ZTMoney& ZTMoney::operator-=(const ZTMoney& theOther)
 {
-    myValue = wrapped(qint64(myValue) - theOther.myValue);
+    *this = fromAmount(qint64(myValue) - theOther.myValue);
     return *this;
 }
 
 ZTMoney& ZTMoney::operator*=(int theFactor)
 {
-    myValue = wrapped(qint64(myValue) * theFactor);
+    // Two 32-bit factors cannot leave 64 bits.
+    *this = fromAmount(qint64(myValue) * theFactor);
     return *this;
 }
 

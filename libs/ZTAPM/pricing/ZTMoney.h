@@ -6,6 +6,8 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <climits>
+
 class QDataStream;
 class QDebug;
 class QDomElement;
@@ -15,7 +17,9 @@ class QJsonObject;
 // An amount in hundredths of the main currency unit. Integer arithmetic only, no rounding: a
 // value read from a document stays that exact integer through every sum and product.
 // Two values are sentinels: the default 2147483647 (no price yet) and -1 (cannot be priced).
-// Arithmetic does not test them, so callers check isValid() before they multiply.
+// Arithmetic does not test them, so callers check isValid() before they multiply. A result that
+// leaves the 32-bit range or lands on a sentinel is no amount: it becomes -1, never a wrapped
+// number.
 class ZTAPM_EXPORT ZTMoney
 {
 public:
@@ -23,7 +27,18 @@ public:
     static constexpr qint32 noPrice = -1;
 
     ZTMoney() = default;
-    ZTMoney(int theValue) : myValue(theValue) {}
+    // Whether an exact result can be held as an amount: within 32 bits and neither sentinel.
+    static constexpr bool fits(qint64 theAmount)
+    {
+        return theAmount >= qint64(INT_MIN) && theAmount < notSet && theAmount != noPrice;
+    }
+    // The exact amount where it fits, otherwise no price.
+    static constexpr ZTMoney fromAmount(qint64 theAmount)
+    {
+        return ZTMoney(fits(theAmount) ? qint32(theAmount) : noPrice);
+    }
+
+    constexpr ZTMoney(int theValue) : myValue(theValue) {}
     // The number under "price", 0 if it is missing.
     explicit ZTMoney(const QJsonObject& theObject);
 
