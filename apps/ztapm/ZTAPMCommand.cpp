@@ -141,7 +141,11 @@ QString ZTAPMCommand::amountText(const QJsonValue& theAmount)
     const qint64 value = theAmount.toInteger();
     if (value == ZTMoney::noPrice)
         return QStringLiteral("no price");
-    // Computed on the integer: no floating point touches an amount.
+    // In the key account's currency; a key account without a currency it describes gets units
+    // and hundredths, computed on the integer: no floating point touches an amount.
+    const QString text = ZTMoney(int(value)).fullText();
+    if (!text.isEmpty())
+        return text;
     const qint64 magnitude = value < 0 ? -value : value;
     return QStringLiteral("%1%2.%3")
         .arg(value < 0 ? QStringLiteral("-") : QString())

@@ -83,7 +83,8 @@ protected:
 
     // An amount for JSON: whole hundredths, null where nothing is set.
     static QJsonValue amountJson(const ZTMoney& theAmount);
-    // An amount of a report for a person: units and hundredths, "-" for null, "no price" for -1.
+    // An amount of a report for a person in the key account's currency ("12,34 €"), as units and
+    // hundredths where the key account describes no currency; "-" for null, "no price" for -1.
     static QString amountText(const QJsonValue& theAmount);
     // The keyword of a model; the basket-wide transfer has none and is named "basket".
     static QString modelName(const ZTDiscountModel& theModel);

@@ -3,6 +3,7 @@
 #include "ZTAPMArticleCommand.h"
 #include "ZTAPMCatalogueCommand.h"
 #include "ZTAPMCommand.h"
+#include "ZTAPMOrderingCommand.h"
 #include "ZTAPMPriceCommand.h"
 #include "ZTAPMStartupCommand.h"
 #include "ZTInitializer.h"
@@ -25,6 +26,7 @@ ZTAPMCommandLine::ZTAPMCommandLine()
     add<ZTAPMCatalogueCommand>();
     add<ZTAPMArticleCommand>();
     add<ZTAPMPriceCommand>();
+    add<ZTAPMOrderingCommand>();
 }
 
 ZTAPMCommandLine::~ZTAPMCommandLine() = default;

@@ -4,6 +4,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
 // The ztapm program as a person or a script runs it: exit statuses, messages, the JSON it prints and,
@@ -134,6 +135,12 @@ private Q_SLOTS:
         QTest::newRow("option of another command")
             << QStringList{QStringLiteral("catalogue"), QStringLiteral("--sum"), QStringLiteral("5")} << 2
             << "go with the command price";
+        QTest::newRow("ordering takes no arguments")
+            << QStringList{QStringLiteral("ordering"), QStringLiteral("FC")} << 2
+            << "ordering takes no arguments";
+        QTest::newRow("ordering: bad source")
+            << QStringList{QStringLiteral("ordering"), QStringLiteral("--source"), QStringLiteral("cd-mail")}
+            << 2 << "unknown order source 'cd-mail'";
         QTest::newRow("unknown article") << QStringList{QStringLiteral("article"), QStringLiteral("4711")}
                                          << 3 << "article 4711 does not exist";
         QTest::newRow("missing directory")
@@ -262,6 +269,49 @@ private Q_SLOTS:
         QCOMPARE(rows.at(1)[QStringLiteral("from")].toInt(), 10);
         QCOMPARE(rows.at(1)[QStringLiteral("price")].toInt(), 249);
         QCOMPARE(rows.at(2)[QStringLiteral("to")].toInt(), -1);
+    }
+    // Switching the order source as a user would: point of sale permits neither payment 3 nor
+    // anything remembered in a fresh settings directory, so no payment is chosen.
+    void orderingSwitchesTheSource()
+    {
+        QTemporaryDir settings;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), settings.path());
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(ZTAPM_PROGRAM),
+                      {QStringLiteral("ordering"), QStringLiteral("--source"), QStringLiteral("online-pos"),
+                       QStringLiteral("--json"), QStringLiteral("--data"), QStringLiteral(ZT_DEMO_DATA_DIR)});
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.exitCode(), 0);
+        const QJsonObject json = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+        QCOMPARE(json[QStringLiteral("defaultSource")].toString(), QStringLiteral("FM"));
+        QCOMPARE(json[QStringLiteral("currentSource")].toString(), QStringLiteral("FC"));
+        QCOMPARE(json[QStringLiteral("startingPayment")].toObject(),
+                 (QJsonObject{{QStringLiteral("id"), -1}, {QStringLiteral("brand"), QString()}}));
+
+        // Every source, in order; the credit cards in place of their meta method, with the fee of
+        // the source.
+        QStringList sources;
+        for (const QJsonValue& value : json[QStringLiteral("orderSources")].toArray())
+            sources.append(value[QStringLiteral("source")].toString() +
+                           (value[QStringLiteral("enabled")].toBool() ? QString() : QStringLiteral(" off")));
+        QCOMPARE(sources,
+                 (QStringList{QStringLiteral("FC"), QStringLiteral("FM"), QStringLiteral("CC off")}));
+        const QJsonArray pointOfSale =
+            json[QStringLiteral("orderSources")][0][QStringLiteral("payments")].toArray();
+        QCOMPARE(pointOfSale.size(), 4);
+        QCOMPARE(pointOfSale.first().toObject(),
+                 (QJsonObject{{QStringLiteral("id"), 1},
+                              {QStringLiteral("brand"), QStringLiteral("VISA")},
+                              {QStringLiteral("name"), QStringLiteral("Visa")},
+                              {QStringLiteral("fee"), 250}}));
+        QCOMPARE(pointOfSale.last()[QStringLiteral("id")].toInt(), 0);
+        const QJsonArray mailOrder =
+            json[QStringLiteral("orderSources")][1][QStringLiteral("payments")].toArray();
+        QCOMPARE(mailOrder.at(1)[QStringLiteral("fee")].toInt(), 150);
+        // Shipment fees under the current source: point of sale has none priced.
+        QVERIFY(json[QStringLiteral("shipmentMethods")][1][QStringLiteral("fee")].isNull());
     }
 };
 

@@ -1,5 +1,7 @@
 #include "ZTProduct.h"
 
+#include "ZTAPMShippingGroupManager.h"
+
 ZTProduct::ZTProduct(const QDomElement& theElement) : ZTProductAbstract(theElement)
 {}
 
@@ -7,7 +9,7 @@ ZTProduct::~ZTProduct() = default;
 
 QString ZTProduct::fullQualifiedName() const
 {
-    // The group's number stands in for its name until the shipping groups of the ordering
-    // details are part of the engine.
-    return name() + QStringLiteral(" (") + shippingGroupId().toString() + QLatin1Char(')');
+    return name() + QStringLiteral(" (") +
+           ZTSingleton<ZTAPMShippingGroupManager>::instance()->shippingGroupName(shippingGroupId()) +
+           QLatin1Char(')');
 }

@@ -1,7 +1,9 @@
 #include "ZTProductAbstract.h"
 
+#include "ZTAPMGlobalStatus.h"
 #include "ZTAPMObjects.h"
 #include "ZTAPMPriceKey.h"
+#include "ZTAPMShippingGroupManager.h"
 #include "ZTDiscountLimit.h"
 #include "ZTDiscountLimitList.h"
 #include "ZTOrderSource.h"
@@ -125,6 +127,11 @@ ZTMoney ZTProductAbstract::priceFirstFit() const
         first = false;
     }
     return result;
+}
+
+ZTMoney ZTProductAbstract::price() const
+{
+    return price(ZTSingleton<ZTAPMGlobalStatus>::instance()->priceKey(), 1, ZTMoney(0));
 }
 
 QString ZTProductAbstract::fullQualifiedName() const
@@ -405,9 +412,7 @@ bool ZTProductAbstract::isOrderable() const
         return false;
     if (isAddOn())
         return true;
-    // Until the shipping groups of the ordering details are part of the engine, any valid group
-    // counts as one the server ships.
-    return shippingGroupId().isValid();
+    return ZTSingleton<ZTAPMShippingGroupManager>::instance()->hasShippingGroup(shippingGroupId());
 }
 
 bool ZTProductAbstract::isCompatibleWithArticleId(const ZTArticleId& theId) const

@@ -58,6 +58,8 @@ public:
     static QString orderTxtHeadPhotoProduct();
 
     virtual bool isValid() const;
+    // One piece under the current order status.
+    virtual ZTMoney price() const;
     // The price of so many pieces under the key, for goods worth theBillingSum; priceFor without
     // a bill and a basket.
     virtual ZTMoney price(const ZTAPMPriceKey& theKey, int theCount, const ZTMoney& theBillingSum) const;

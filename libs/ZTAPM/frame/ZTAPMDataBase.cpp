@@ -9,6 +9,7 @@
 #include "ZTOrderSource.h"
 #include "ZTPageOrganizationManager.h"
 #include "ZTPaymentId.h"
+#include "ZTPaymentMethod.h"
 #include "ZTPriceClass.h"
 #include "ZTProductAbstract.h"
 #include "ZTProductCheckerRegistry.h"
@@ -290,6 +291,12 @@ ZTProductAbstract* ZTAPMDataBase::paymentFeeProduct(const ZTPaymentId& thePaymen
 {
     DataBaseLocker locker(myLock);
     return myPaymentFees->paymentFeeProduct(thePaymentId);
+}
+
+ZTProductAbstract* ZTAPMDataBase::paymentFeeProduct(const ZTPaymentMethod& theMethod) const
+{
+    // Every member of a family shares the fee of its meta method.
+    return paymentFeeProduct(theMethod.paymentId());
 }
 
 bool ZTAPMDataBase::expressFeeProductsExist() const

@@ -26,6 +26,7 @@ class ZTDiscountModel;
 class ZTExpressKey;
 class ZTOrderSource;
 class ZTPaymentId;
+class ZTPaymentMethod;
 class ZTPriceClass;
 class ZTProductAbstract;
 class ZTProductRegistry;
@@ -99,6 +100,7 @@ public:
 
     ZTProductAbstract* transferProduct(const ZTShippingGroupId& theShippingGroupId) const;
     ZTProductAbstract* paymentFeeProduct(const ZTPaymentId& thePaymentId) const;
+    ZTProductAbstract* paymentFeeProduct(const ZTPaymentMethod& theMethod) const;
     bool expressFeeProductsExist() const;
     QList<const ZTProductAbstract*> expressFeeProducts(const ZTShippingGroupId& theShippingGroupId) const;
     ZTProductAbstract* expressFeeProduct(const ZTExpressKey& theKey) const;

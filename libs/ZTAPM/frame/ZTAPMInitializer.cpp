@@ -1,8 +1,10 @@
 #include "ZTAPMInitializer.h"
 
 #include "ZTAPMDataBase.h"
+#include "ZTAPMGlobalStatus.h"
 #include "ZTAPMProductChecker.h"
 #include "ZTInitializer.h"
+#include "ZTOrderingDetails.h"
 #include "ZTPageOrganizationCalculatorAPM.h"
 #include "ZTPageOrganizationManager.h"
 #include "ZTProductCheckerRegistry.h"
@@ -20,8 +22,11 @@ ZTAPMInitializer::~ZTAPMInitializer() = default;
 
 void ZTAPMInitializer::setup(ZTInitializerOption)
 {
-    // Constructing the data base loads the catalogue.
+    // The status first: it brings up the configuration, the ordering details and the settings
+    // and picks the order source. Constructing the data base then loads the catalogue.
+    ZTSingleton<ZTAPMGlobalStatus>::instance();
     ZTSingleton<ZTAPMDataBase>::instance();
+    ZTSingleton<ZTOrderingDetails>::instance();
     ZTSingleton<ZTPageOrganizationManager>::instance()->setCalculator(new ZTPageOrganizationCalculatorAPM);
     qInfo() << "Calculator set for Page Organization Manager (POM).";
     ZTSingleton<ZTProductCheckerRegistry>::instance()->registerChecker(new ZTAPMProductChecker);

@@ -240,7 +240,7 @@ QString ZTPaymentMethod::logoFileName() const
 
 ZTProductAbstract* ZTPaymentMethod::paymentFeeProduct() const
 {
-    return ZTAPMDataBase::instance()->paymentFeeProduct(paymentId());
+    return ZTAPMDataBase::instance()->paymentFeeProduct(*this);
 }
 
 void ZTPaymentMethod::setPaymentProperties(const ZTPaymentMethod& theMetaMethod)

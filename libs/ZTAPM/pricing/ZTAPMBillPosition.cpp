@@ -24,10 +24,10 @@ ZTAPMBillPositionAbstract* ZTAPMBillPosition::clone() const
 }
 
 namespace {
-// The amount as the log shows it.
+// The amount as the log shows it: with the symbol, plain text, primary currency.
 QString moneyText(const ZTMoney& theMoney)
 {
-    return theMoney.toString();
+    return theMoney.fullText(true, false, false);
 }
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "ZTMoney.h"
 
+#include "ZTCurrencyConfig.h"
 #include "ZTXMLParser.h"
 
 #include <QDataStream>
@@ -61,6 +62,11 @@ void ZTMoney::toXmlAttribute(QDomElement& theElement) const
 void ZTMoney::toJSON(QJsonObject& theObject) const
 {
     theObject.insert(DEFAULT_PRICE_ID_KEY, myValue);
+}
+
+QString ZTMoney::fullText(bool theWithSymbol, bool theHtml, bool theSecondary) const
+{
+    return ZTSingleton<ZTCurrencyConfig>::instance()->fullText(myValue, theWithSymbol, theHtml, theSecondary);
 }
 
 ZTMoney& ZTMoney::operator+=(const ZTMoney& theOther)

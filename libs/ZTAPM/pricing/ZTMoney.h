@@ -40,6 +40,9 @@ public:
 
     qint32 value() const { return myValue; }
     QString toString() const { return QString::number(myValue); }
+    // Display text in the key account's currency; with theSecondary converted to the secondary
+    // one. Empty if the currencies file lacks the currency.
+    QString fullText(bool theWithSymbol = true, bool theHtml = false, bool theSecondary = false) const;
 
     // Above 0. Deliberately independent of isValid(): the unset default has a "price" too.
     bool hasPrice() const { return myValue > 0; }

@@ -1,5 +1,6 @@
 #include "ZTAPMPriceKey.h"
 #include "ZTOrderSource.h"
+#include "ZTOrderingDetails.h"
 #include "ZTProduct.h"
 #include "ZTProductAddOn.h"
 #include "ZTProductAddOnConfig.h"
@@ -48,6 +49,12 @@ class TestProduct : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        // The demo's shipping groups decide what can be ordered.
+        ZTSingleton<ZTOrderingDetails>::instance();
+    }
+
     void ownStateAndDeprecation()
     {
         ZTProductPrintFun book(element(QStringLiteral("<article id=\"1001\" group=\"1\"/>")));
@@ -69,6 +76,13 @@ private Q_SLOTS:
         book.update(element(QStringLiteral("<article id=\"1001\" group=\"3\"/>")));
         QVERIFY(!book.isDeprecated());
         QCOMPARE(book.shippingGroupId(), ZTShippingGroupId(3));
+        QCOMPARE(book.fullQualifiedName(), QStringLiteral("Fotobuch A4 Hardcover"));
+        // A group the ordering details do not know is not shipped.
+        book.update(element(QStringLiteral("<article id=\"1001\" group=\"2\"/>")));
+        QVERIFY(!book.isOrderable());
+        // Prints name their group.
+        ZTProduct print(element(QStringLiteral("<article id=\"3001\" group=\"16\"/>")));
+        QCOMPARE(print.fullQualifiedName(), QStringLiteral("Abzug 9x13 (Fotoabzüge und Poster)"));
 
         ZTProductAbstract* none = ZTProductAbstract::nullProduct();
         QCOMPARE(ZTProductAbstract::nullProduct(), none);

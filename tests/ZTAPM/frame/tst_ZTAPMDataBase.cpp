@@ -77,7 +77,7 @@ private Q_SLOTS:
         QVERIFY(product(9201));
         QCOMPARE(product(9201), dataBase()->paymentFeeProduct(ZTPaymentId(1)));
         QCOMPARE(product(9001), dataBase()->transferProduct(ZTShippingGroupId(1)));
-        QCOMPARE(product(9301)->articleId().id(), dataBase()->idOfShipmentMethodFeeProduct(1));
+        QCOMPARE(product(9301)->articleId().id(), dataBase()->idOfShipmentMethodFeeProduct(0));
         QVERIFY(!product(424242));
         QVERIFY(!dataBase()->productAbstract(ZTProductType()));
         QCOMPARE(dataBase()->productAbstract(ZTProductType(QStringLiteral("BOOK_A4_HC"))), product(1001));
