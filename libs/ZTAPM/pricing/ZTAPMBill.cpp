@@ -157,7 +157,14 @@ ZTAPMBillPositionList ZTAPMBill::billPositions(const ZTProductAbstract* theProdu
 ZTAPMBillPositionList ZTAPMBill::sortedBillPositions(const ZTArticleClass& theClass) const
 {
     ZTAPMBillPositionList positions = filter(theClass);
-    std::sort(positions.begin(), positions.end(), &ZTAPMBillPositionAbstract::lessThan);
+    // Positions of equal names keep the bill's own order rather than their addresses', so that
+    // the same basket is always shown the same way.
+    std::stable_sort(
+        positions.begin(), positions.end(),
+        [](const ZTAPMBillPositionAbstract* theFirst, const ZTAPMBillPositionAbstract* theSecond) {
+            return theFirst->productName() != theSecond->productName() &&
+                   ZTAPMBillPositionAbstract::lessThan(theFirst, theSecond);
+        });
     return positions;
 }
 

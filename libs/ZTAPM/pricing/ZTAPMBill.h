@@ -46,7 +46,7 @@ public:
 
     ZTAPMBillPositionList billPositions(const ZTArticleClass& theClass) const;
     ZTAPMBillPositionList billPositions(const ZTProductAbstract* theProduct) const;
-    // The positions of the class by product name, for display.
+    // The positions of the class by product name, for display; equal names in the bill's order.
     ZTAPMBillPositionList sortedBillPositions(const ZTArticleClass& theClass) const;
     // The priced position of the product; null if it has none or was not priceable.
     ZTAPMBillPosition* billPosition(const ZTProductAbstract* theProduct) const;
