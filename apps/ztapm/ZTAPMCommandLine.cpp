@@ -5,6 +5,7 @@
 #include "ZTAPMCommand.h"
 #include "ZTAPMOrderingCommand.h"
 #include "ZTAPMPriceCommand.h"
+#include "ZTAPMQuoteCommand.h"
 #include "ZTAPMStartupCommand.h"
 #include "ZTInitializer.h"
 #include "ZTProgramConfig.h"
@@ -27,6 +28,7 @@ ZTAPMCommandLine::ZTAPMCommandLine()
     add<ZTAPMCatalogueCommand>();
     add<ZTAPMArticleCommand>();
     add<ZTAPMPriceCommand>();
+    add<ZTAPMQuoteCommand>();
     add<ZTAPMOrderingCommand>();
 }
 

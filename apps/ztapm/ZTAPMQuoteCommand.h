@@ -1,0 +1,31 @@
+#ifndef ZTAPMQUOTECOMMAND_H
+#define ZTAPMQUOTECOMMAND_H
+
+#include "ZTAPMCommand.h"
+#include "ZTExpressType.h"
+#include "ZTOrderSource.h"
+
+#include <QPair>
+
+// "quote ID:COUNT ...": the basket split by shipping group as a host does it, one bill per
+// group with its positions, transfer and fees, then the shipment fee and the grand total.
+class ZTAPMQuoteCommand : public ZTAPMCommand
+{
+public:
+    QString name() const override;
+    QString synopsis() const override;
+    QString summary() const override;
+    QList<QCommandLineOption> options() const override;
+    int readArguments(const QStringList& theArguments, const QCommandLineParser& theParser) override;
+    int run(QJsonObject& theReport) override;
+    void writeText(const QJsonObject& theReport, QTextStream& theOut) const override;
+
+private:
+    QList<QPair<int, int>> myItems;
+    ZTOrderSource myOrderSource;
+    QString myPayment;
+    int myShipment = -1;
+    ZTExpressType myExpressType;
+};
+
+#endif // ZTAPMQUOTECOMMAND_H
