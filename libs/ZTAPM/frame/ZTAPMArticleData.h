@@ -162,9 +162,8 @@ public:
     bool wantsReadingOf(const QFileInfo& theFile) const
     {
         QReadLocker reader(&myLock);
-        return !myLoaded &&
-               theFile.absoluteFilePath() ==
-                   ZTResourceFile(dataType()).fileInfo(false, QString()).absoluteFilePath();
+        return !myLoaded && theFile.absoluteFilePath() ==
+                                ZTResourceFile(dataType()).fileInfo(false, QString()).absoluteFilePath();
     }
 
     // The value of an id, or a default-made T. A store that has not read its document yet reads
