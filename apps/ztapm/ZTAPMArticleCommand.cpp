@@ -20,13 +20,13 @@ QString ZTAPMArticleCommand::synopsis() const
 
 QString ZTAPMArticleCommand::summary() const
 {
-    return QStringLiteral("an article's facts, price ladder and delivery times");
+    return tr("an article's facts, price ladder and delivery times");
 }
 
 int ZTAPMArticleCommand::readArguments(const QStringList& theArguments, const QCommandLineParser&)
 {
     if (theArguments.size() != 1)
-        return fail(UsageError, QStringLiteral("usage: article ID"));
+        return fail(UsageError, tr("usage: article ID"));
     return readArticleId(theArguments.first(), &myArticleId);
 }
 
@@ -92,8 +92,8 @@ int ZTAPMArticleCommand::run(QJsonObject& theReport)
 
 void ZTAPMArticleCommand::writeText(const QJsonObject& theReport, QTextStream& theOut) const
 {
-    const auto line = [&theOut](const char* theLabel, const QString& theText) {
-        theOut << QString::fromLatin1(theLabel).leftJustified(18) << theText << '\n';
+    const auto line = [&theOut](const QString& theLabel, const QString& theText) {
+        theOut << theLabel.leftJustified(18) << theText << '\n';
     };
     const auto ids = [](const QJsonValue& theIds) {
         QStringList texts;
@@ -101,57 +101,65 @@ void ZTAPMArticleCommand::writeText(const QJsonObject& theReport, QTextStream& t
             texts.append(QString::number(id.toInt()));
         return texts.isEmpty() ? QStringLiteral("-") : texts.join(QStringLiteral(", "));
     };
+    // The keywords of delivery type and express wish stand in JSON as they are.
+    const auto keyword = [](const QJsonValue& theKeyword) {
+        const QString text = theKeyword.toString();
+        for (const char* known : {QT_TR_NOOP("point of sale"), QT_TR_NOOP("mail order"),
+                                  QT_TR_NOOP("not given"), QT_TR_NOOP("standard"), QT_TR_NOOP("express")}) {
+            if (text == QLatin1String(known))
+                return tr(known);
+        }
+        return text;
+    };
     const QJsonObject pages = theReport[QStringLiteral("pages")].toObject();
-    line("Article", QStringLiteral("%1 %2")
-                        .arg(theReport[QStringLiteral("id")].toInt())
-                        .arg(theReport[QStringLiteral("name")].toString()));
-    line("Class", theReport[QStringLiteral("articleClass")].toString());
-    line("Shipping group", groupText(theReport[QStringLiteral("shippingGroup")]));
-    line("Product type", theReport[QStringLiteral("productType")].toString());
-    line("Order text head", theReport[QStringLiteral("orderTxtHead")].toString());
-    line("Pages", QStringLiteral("%1 to %2, in steps of %3")
-                      .arg(pages[QStringLiteral("min")].toInt())
-                      .arg(pages[QStringLiteral("max")].toInt())
-                      .arg(pages[QStringLiteral("increment")].toInt()));
-    line("Linked articles", ids(theReport[QStringLiteral("linkedArticles")]));
-    line("Required add-ons", ids(theReport[QStringLiteral("requiredAddOns")]));
-    line("Deprecated",
-         theReport[QStringLiteral("deprecated")].toBool() ? QStringLiteral("yes") : QStringLiteral("no"));
+    line(tr("Article"), QStringLiteral("%1 %2")
+                            .arg(theReport[QStringLiteral("id")].toInt())
+                            .arg(theReport[QStringLiteral("name")].toString()));
+    line(tr("Class"), theReport[QStringLiteral("articleClass")].toString());
+    line(tr("Shipping group"), groupText(theReport[QStringLiteral("shippingGroup")]));
+    line(tr("Product type"), theReport[QStringLiteral("productType")].toString());
+    line(tr("Order text head"), theReport[QStringLiteral("orderTxtHead")].toString());
+    line(tr("Pages"), tr("%1 to %2, in steps of %3")
+                          .arg(pages[QStringLiteral("min")].toInt())
+                          .arg(pages[QStringLiteral("max")].toInt())
+                          .arg(pages[QStringLiteral("increment")].toInt()));
+    line(tr("Linked articles"), ids(theReport[QStringLiteral("linkedArticles")]));
+    line(tr("Required add-ons"), ids(theReport[QStringLiteral("requiredAddOns")]));
+    line(tr("Deprecated"), theReport[QStringLiteral("deprecated")].toBool() ? tr("yes") : tr("no"));
 
-    theOut << "Prices:\n";
+    theOut << tr("Prices:") << '\n';
     const QList<int> widths{2, 4, 8, 8, 6, 5, 10};
     for (const QJsonValue& value : theReport[QStringLiteral("prices")].toArray()) {
         const QJsonObject source = value.toObject();
         theOut << "  " << source[QStringLiteral("source")].toString() << '\n';
         writeColumns(theOut,
-                     {QString(), QString(), QStringLiteral("from"), QStringLiteral("to"),
-                      QStringLiteral("model"), QStringLiteral("level"), QStringLiteral("unit price"),
-                      QStringLiteral("offer")},
+                     {QString(), QString(), tr("from"), tr("to"), tr("model"), tr("level"), tr("unit price"),
+                      tr("offer")},
                      widths);
         for (const QJsonValue& rowValue : source[QStringLiteral("rows")].toArray()) {
             const QJsonObject row = rowValue.toObject();
             const int to = row[QStringLiteral("to")].toInt();
-            writeColumns(
-                theOut,
-                {QString(), QString(), QString::number(row[QStringLiteral("from")].toInt()),
-                 to < 0 ? QStringLiteral("-") : QString::number(to), row[QStringLiteral("model")].toString(),
-                 QString::number(row[QStringLiteral("level")].toInt()),
-                 amountText(row[QStringLiteral("price")]),
-                 row[QStringLiteral("offer")].toBool()
-                     ? QStringLiteral("instead of %1").arg(amountText(row[QStringLiteral("nonOfferPrice")]))
-                     : QString()},
-                widths);
+            writeColumns(theOut,
+                         {QString(), QString(), QString::number(row[QStringLiteral("from")].toInt()),
+                          to < 0 ? QStringLiteral("-") : QString::number(to),
+                          row[QStringLiteral("model")].toString(),
+                          QString::number(row[QStringLiteral("level")].toInt()),
+                          amountText(row[QStringLiteral("price")]),
+                          row[QStringLiteral("offer")].toBool()
+                              ? tr("instead of %1").arg(amountText(row[QStringLiteral("nonOfferPrice")]))
+                              : QString()},
+                         widths);
         }
     }
-    theOut << "Delivery times:\n";
+    theOut << tr("Delivery times:") << '\n';
     const QJsonArray times = theReport[QStringLiteral("deliveryTimes")].toArray();
     if (times.isEmpty())
         theOut << "  -\n";
     for (const QJsonValue& value : times) {
         const QJsonObject time = value.toObject();
-        theOut << "  " << time[QStringLiteral("deliveryType")].toString().leftJustified(14)
-               << time[QStringLiteral("express")].toString().leftJustified(10)
-               << QStringLiteral("%1 to %2 days")
+        theOut << "  " << keyword(time[QStringLiteral("deliveryType")]).leftJustified(14)
+               << keyword(time[QStringLiteral("express")]).leftJustified(10)
+               << tr("%1 to %2 days")
                       .arg(time[QStringLiteral("minDays")].toInt())
                       .arg(time[QStringLiteral("maxDays")].toInt())
                << '\n';

@@ -6,6 +6,8 @@
 // "article ID": an article's facts, its price rows per order source and its delivery times.
 class ZTAPMArticleCommand : public ZTAPMCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMArticleCommand)
+
 public:
     QString name() const override;
     QString synopsis() const override;

@@ -19,7 +19,7 @@ QString ZTAPMCatalogueCommand::synopsis() const
 
 QString ZTAPMCatalogueCommand::summary() const
 {
-    return QStringLiteral("every product with its lowest price per order source");
+    return tr("every product with its lowest price per order source");
 }
 
 int ZTAPMCatalogueCommand::readArguments(const QStringList& theArguments, const QCommandLineParser&)
@@ -54,8 +54,7 @@ void ZTAPMCatalogueCommand::writeText(const QJsonObject& theReport, QTextStream&
 {
     const QList<int> widths{6, 40, 24, 5, 10, 10, 10};
     const QList<ZTOrderSource> sources = ZTOrderSource::all();
-    QStringList header{QStringLiteral("id"), QStringLiteral("name"), QStringLiteral("class"),
-                       QStringLiteral("group")};
+    QStringList header{tr("id"), tr("name"), tr("class"), tr("group")};
     for (const ZTOrderSource& source : sources)
         header.append(source.toLogString());
     writeColumns(theOut, header, widths);
@@ -65,7 +64,7 @@ void ZTAPMCatalogueCommand::writeText(const QJsonObject& theReport, QTextStream&
         const QJsonObject product = value.toObject();
         QString title = product[QStringLiteral("name")].toString();
         if (product[QStringLiteral("deprecated")].toBool())
-            title += QStringLiteral(" [deprecated]");
+            title += tr(" [deprecated]");
         QStringList cells{QString::number(product[QStringLiteral("id")].toInt()), title,
                           product[QStringLiteral("articleClass")].toString(),
                           groupText(product[QStringLiteral("shippingGroup")])};
@@ -74,5 +73,5 @@ void ZTAPMCatalogueCommand::writeText(const QJsonObject& theReport, QTextStream&
             cells.append(amountText(lowest[source.toLogString()]));
         writeColumns(theOut, cells, widths);
     }
-    theOut << products.size() << " products\n";
+    theOut << tr("%1 products").arg(products.size()) << '\n';
 }

@@ -6,6 +6,8 @@
 // "catalogue": every product, fees included, with its lowest price per order source.
 class ZTAPMCatalogueCommand : public ZTAPMCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMCatalogueCommand)
+
 public:
     QString name() const override;
     QString synopsis() const override;

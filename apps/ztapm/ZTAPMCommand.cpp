@@ -70,9 +70,8 @@ QString ZTAPMCommand::orderSourcesHelp()
 {
     QStringList names;
     for (const ZTOrderSource& source : ZTOrderSource::all())
-        names.append(QStringLiteral("%1 (%2%3)")
-                         .arg(orderSourceName(source), source.toLogString(),
-                              source == defaultOrderSource() ? QStringLiteral(", default") : QString()));
+        names.append((source == defaultOrderSource() ? tr("%1 (%2, default)") : QStringLiteral("%1 (%2)"))
+                         .arg(orderSourceName(source), source.toLogString()));
     return names.join(QStringLiteral(", "));
 }
 
@@ -94,7 +93,7 @@ int ZTAPMCommand::noArguments(const QStringList& theArguments) const
 {
     if (theArguments.isEmpty())
         return Success;
-    return fail(UsageError, QStringLiteral("%1 takes no arguments").arg(name()));
+    return fail(UsageError, tr("%1 takes no arguments").arg(name()));
 }
 
 int ZTAPMCommand::readArticleId(const QString& theText, int* theId)
@@ -102,7 +101,7 @@ int ZTAPMCommand::readArticleId(const QString& theText, int* theId)
     bool ok = false;
     *theId = theText.toInt(&ok);
     if (!ok || *theId <= 0)
-        return fail(UsageError, QStringLiteral("'%1' is no article id").arg(theText));
+        return fail(UsageError, tr("'%1' is no article id").arg(theText));
     return Success;
 }
 
@@ -110,10 +109,8 @@ ZTProductAbstract* ZTAPMCommand::findProduct(int theId, int* theStatus)
 {
     ZTProductAbstract* product = ZTSingleton<ZTAPMDataBase>::instance()->productAbstract(ZTArticleId(theId));
     *theStatus =
-        product
-            ? Success
-            : fail(NotFound,
-                   QStringLiteral("article %1 does not exist in %2").arg(theId).arg(keyAccountDirectory()));
+        product ? Success
+                : fail(NotFound, tr("article %1 does not exist in %2").arg(theId).arg(keyAccountDirectory()));
     return product;
 }
 
@@ -140,7 +137,7 @@ QString ZTAPMCommand::amountText(const QJsonValue& theAmount)
         return QStringLiteral("-");
     const qint64 value = theAmount.toInteger();
     if (value == ZTMoney::noPrice)
-        return QStringLiteral("no price");
+        return tr("no price");
     // In the key account's currency; a key account without a currency it describes gets units
     // and hundredths, computed on the integer: no floating point touches an amount.
     const QString text = ZTMoney(int(value)).fullText();

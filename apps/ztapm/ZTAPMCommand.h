@@ -2,6 +2,7 @@
 #define ZTAPMCOMMAND_H
 
 #include <QCommandLineOption>
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QList>
@@ -23,6 +24,8 @@ class ZTShippingGroupId;
 // order sources, amounts, columns) stands here, so that a command holds only its own questions.
 class ZTAPMCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMCommand)
+
 public:
     enum ExitStatus { Success = 0, UsageError = 2, NotFound = 3 };
 

@@ -9,6 +9,7 @@
 #include "ZTAPMStartupCommand.h"
 #include "ZTInitializer.h"
 #include "ZTProgramConfig.h"
+#include "ZTTranslations.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -36,19 +37,30 @@ ZTAPMCommandLine::~ZTAPMCommandLine() = default;
 
 int ZTAPMCommandLine::run(const QStringList& theArguments)
 {
+    // The language comes first: the help below is written in it, and the engine translates some
+    // of its texts while it starts.
+    const QString requested = requestedLanguage(theArguments);
+    const bool known = requested.isEmpty() || languages().contains(requested);
+    ZTTranslations::install(known && !requested.isEmpty() ? requested : environmentLanguage(),
+                            {QStringLiteral("ZTAPM"), QStringLiteral("ztapm-command")});
+
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Runs the ZTAPM engine on a key account.\n\n") +
+    parser.setApplicationDescription(tr("Runs the ZTAPM engine on a key account.") + QStringLiteral("\n\n") +
                                      commandsHelp());
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption dataOption(
-        QStringLiteral("data"), QStringLiteral("Key-account directory (default: the demo key account)."),
-        QStringLiteral("DIR"));
-    const QCommandLineOption jsonOption(QStringLiteral("json"), QStringLiteral("Print one JSON document."));
-    const QCommandLineOption verboseOption(QStringLiteral("verbose"),
-                                           QStringLiteral("Show the engine's log."));
-    parser.addOptions({dataOption, jsonOption, verboseOption});
-    QStringList valueOptions = dataOption.names();
+    const QCommandLineOption dataOption(QStringLiteral("data"),
+                                        tr("Key-account directory (default: the demo key account)."),
+                                        QStringLiteral("DIR"));
+    const QCommandLineOption jsonOption(QStringLiteral("json"), tr("Print one JSON document."));
+    const QCommandLineOption verboseOption(QStringLiteral("verbose"), tr("Show the engine's log."));
+    const QCommandLineOption languageOption(
+        QStringLiteral("lang"),
+        tr("Language of the output, %1 (default: from LC_ALL, LC_MESSAGES or LANG, English unless German).")
+            .arg(ZTAPMCommand::joined(languages(), tr("or"))),
+        QStringLiteral("LANG"));
+    parser.addOptions({dataOption, jsonOption, verboseOption, languageOption});
+    QStringList valueOptions = dataOption.names() + languageOption.names();
     // Every command's options, each once: two commands may share one.
     QSet<QString> optionNames;
     for (const auto& command : myCommands) {
@@ -61,7 +73,7 @@ int ZTAPMCommandLine::run(const QStringList& theArguments)
             }
         }
     }
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("What to do (see above)."),
+    parser.addPositionalArgument(QStringLiteral("command"), tr("What to do (see above)."),
                                  QStringLiteral("[command] [arguments]"));
     if (!parser.parse(negativeNumbersAsArguments(theArguments, valueOptions)))
         return ZTAPMCommand::fail(ZTAPMCommand::UsageError, parser.errorText());
@@ -69,14 +81,17 @@ int ZTAPMCommandLine::run(const QStringList& theArguments)
         parser.showHelp(ZTAPMCommand::Success);
     if (parser.isSet(QStringLiteral("version")))
         parser.showVersion();
+    if (!known)
+        return ZTAPMCommand::fail(
+            ZTAPMCommand::UsageError,
+            tr("--lang takes %1, not '%2'").arg(ZTAPMCommand::joined(languages(), tr("or")), requested));
     ZTAPMCommand::setVerbose(parser.isSet(verboseOption));
 
     QStringList arguments = parser.positionalArguments();
     const QString name = arguments.isEmpty() ? myCommands.front()->name() : arguments.takeFirst();
     ZTAPMCommand* chosen = command(name);
     if (!chosen)
-        return ZTAPMCommand::fail(ZTAPMCommand::UsageError,
-                                  QStringLiteral("unknown command '%1'; see --help").arg(name));
+        return ZTAPMCommand::fail(ZTAPMCommand::UsageError, tr("unknown command '%1'; see --help").arg(name));
     if (const int status = checkForeignOptions(*chosen, parser))
         return status;
 
@@ -87,7 +102,7 @@ int ZTAPMCommandLine::run(const QStringList& theArguments)
     if (!QFileInfo(config->keyAccountDirectory()).isDir())
         return ZTAPMCommand::fail(
             ZTAPMCommand::NotFound,
-            QStringLiteral("data directory '%1' does not exist").arg(config->keyAccountDirectory()));
+            tr("data directory '%1' does not exist").arg(config->keyAccountDirectory()));
     if (const int status = chosen->readArguments(arguments, parser))
         return status;
     ZTSingleton<ZTInitializer>::instance()->setupAll();
@@ -114,18 +129,17 @@ ZTAPMCommand* ZTAPMCommandLine::command(const QString& theName) const
 
 QString ZTAPMCommandLine::commandsHelp() const
 {
-    QString result = QStringLiteral("Commands:\n");
+    QString result = tr("Commands:") + QLatin1Char('\n');
     for (const auto& command : myCommands) {
         QStringList lines = command->summary().split(QLatin1Char('\n'));
         if (command == myCommands.front())
-            lines.first() += QStringLiteral(" (default)");
+            lines.first() += tr(" (default)");
         result += QStringLiteral("  ") + command->synopsis().leftJustified(22) + QLatin1Char(' ') +
                   lines.join(QLatin1Char('\n') + QString(25, QLatin1Char(' '))) + QLatin1Char('\n');
     }
-    return result +
-           QStringLiteral("Order sources (--source): %1.\n"
-                          "Exit status: 0 done, 2 usage error, 3 data directory or article not found.")
-               .arg(ZTAPMCommand::orderSourcesHelp());
+    return result + tr("Order sources (--source): %1.\n"
+                       "Exit status: 0 done, 2 usage error, 3 data directory or article not found.")
+                        .arg(ZTAPMCommand::orderSourcesHelp());
 }
 
 QStringList ZTAPMCommandLine::negativeNumbersAsArguments(const QStringList& theArguments,
@@ -184,14 +198,41 @@ int ZTAPMCommandLine::checkForeignOptions(const ZTAPMCommand& theCommand,
             } else {
                 options.append(QStringLiteral("--") + optionName);
             }
-            return ZTAPMCommand::fail(
-                ZTAPMCommand::UsageError,
-                QStringLiteral("%1 %2 with the command%3 %4")
-                    .arg(ZTAPMCommand::joined(options, QStringLiteral("and")),
-                         options.size() == 1 ? QStringLiteral("goes") : QStringLiteral("go"),
-                         owners.size() == 1 ? QString() : QStringLiteral("s"),
-                         ZTAPMCommand::joined(owners, QStringLiteral("and"))));
+            // One command's options, or one option that several commands share.
+            const QString message = owners.size() > 1     ? tr("%1 goes with the commands %2")
+                                    : options.size() == 1 ? tr("%1 goes with the command %2")
+                                                          : tr("%1 go with the command %2");
+            return ZTAPMCommand::fail(ZTAPMCommand::UsageError,
+                                      message.arg(ZTAPMCommand::joined(options, tr("and")),
+                                                  ZTAPMCommand::joined(owners, tr("and"))));
         }
     }
     return ZTAPMCommand::Success;
+}
+
+QStringList ZTAPMCommandLine::languages()
+{
+    return {QStringLiteral("en"), QStringLiteral("de")};
+}
+
+QString ZTAPMCommandLine::environmentLanguage()
+{
+    return ZTTranslations::languageFromEnvironment() == QLatin1String("de") ? QStringLiteral("de")
+                                                                            : QStringLiteral("en");
+}
+
+QString ZTAPMCommandLine::requestedLanguage(const QStringList& theArguments)
+{
+    // The last one wins, as with QCommandLineParser::value(); nothing after "--" is an option.
+    QString result;
+    for (int i = 1; i < theArguments.size(); ++i) {
+        const QString& argument = theArguments.at(i);
+        if (argument == QLatin1String("--"))
+            break;
+        if (argument == QLatin1String("--lang") && i + 1 < theArguments.size())
+            result = theArguments.at(++i);
+        else if (argument.startsWith(QLatin1String("--lang=")))
+            result = argument.mid(7);
+    }
+    return result;
 }

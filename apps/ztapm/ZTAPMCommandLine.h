@@ -1,6 +1,7 @@
 #ifndef ZTAPMCOMMANDLINE_H
 #define ZTAPMCOMMANDLINE_H
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <memory>
@@ -14,6 +15,8 @@ class ZTAPMCommand;
 // themselves are ZTAPMCommand classes, registered in the constructor.
 class ZTAPMCommandLine
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMCommandLine)
+
 public:
     ZTAPMCommandLine();
     ~ZTAPMCommandLine();
@@ -27,6 +30,13 @@ private:
     {
         myCommands.push_back(std::make_unique<COMMAND>());
     }
+    // The languages of --lang, English first.
+    static QStringList languages();
+    // German for a German locale of the environment, English for any other.
+    static QString environmentLanguage();
+    // The value of --lang among the arguments (program name first), empty without one. Read
+    // before the parser is made, since the help it holds is already translated.
+    static QString requestedLanguage(const QStringList& theArguments);
     ZTAPMCommand* command(const QString& theName) const;
     QString commandsHelp() const;
     // The arguments with every negative number ("-1") that is no option's value moved behind a

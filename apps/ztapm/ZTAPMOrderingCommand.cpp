@@ -36,7 +36,7 @@ QJsonObject paymentJson(const ZTPaymentMethod& theMethod)
 
 QString yesNo(const QJsonValue& theValue)
 {
-    return theValue.toBool() ? QStringLiteral("yes") : QStringLiteral("no");
+    return theValue.toBool() ? ZTAPMOrderingCommand::tr("yes") : ZTAPMOrderingCommand::tr("no");
 }
 
 // "3", "1 VISA", or "none" for an invalid payment.
@@ -44,7 +44,7 @@ QString paymentText(const QJsonObject& thePayment)
 {
     const int id = thePayment[QStringLiteral("id")].toInt();
     if (id < 0)
-        return QStringLiteral("none");
+        return ZTAPMOrderingCommand::tr("none");
     const QString brand = thePayment[QStringLiteral("brand")].toString();
     return brand.isEmpty() ? QString::number(id) : QStringLiteral("%1 %2").arg(id).arg(brand);
 }
@@ -63,17 +63,17 @@ QString ZTAPMOrderingCommand::synopsis() const
 
 QString ZTAPMOrderingCommand::summary() const
 {
-    return QStringLiteral("what the key account permits and how an order starts: order sources,\n"
-                          "payments and fees, shipment methods, currencies, shipping groups, rules\n"
-                          "[--source S]");
+    return tr("what the key account permits and how an order starts: order sources,\n"
+              "payments and fees, shipment methods, currencies, shipping groups, rules") +
+           QStringLiteral("\n[--source S]");
 }
 
 QList<QCommandLineOption> ZTAPMOrderingCommand::options() const
 {
-    return {QCommandLineOption(QStringLiteral("source"),
-                               QStringLiteral("price, ordering: the order source (default %1).")
-                                   .arg(orderSourceName(defaultOrderSource())),
-                               QStringLiteral("S"), orderSourceName(defaultOrderSource()))};
+    return {QCommandLineOption(
+        QStringLiteral("source"),
+        tr("price, ordering: the order source (default %1).").arg(orderSourceName(defaultOrderSource())),
+        QStringLiteral("S"), orderSourceName(defaultOrderSource()))};
 }
 
 int ZTAPMOrderingCommand::readArguments(const QStringList& theArguments, const QCommandLineParser& theParser)
@@ -87,8 +87,8 @@ int ZTAPMOrderingCommand::readArguments(const QStringList& theArguments, const Q
         QStringList names;
         for (const ZTOrderSource& source : ZTOrderSource::all())
             names.append(orderSourceName(source));
-        return fail(UsageError, QStringLiteral("unknown order source '%1'; use %2")
-                                    .arg(sourceName, joined(names, QStringLiteral("or"))));
+        return fail(UsageError,
+                    tr("unknown order source '%1'; use %2").arg(sourceName, joined(names, tr("or"))));
     }
     return Success;
 }
@@ -211,16 +211,18 @@ int ZTAPMOrderingCommand::run(QJsonObject& theReport)
 void ZTAPMOrderingCommand::writeText(const QJsonObject& theReport, QTextStream& theOut) const
 {
     const auto amount = [](const QJsonValue& theFee) { return amountText(theFee); };
-    theOut << "Order sources (default " << theReport[QStringLiteral("defaultSource")].toString()
-           << ", current " << theReport[QStringLiteral("currentSource")].toString() << "):\n";
+    theOut << tr("Order sources (default %1, current %2):")
+                  .arg(theReport[QStringLiteral("defaultSource")].toString(),
+                       theReport[QStringLiteral("currentSource")].toString())
+           << '\n';
     for (const QJsonValue& value : theReport[QStringLiteral("orderSources")].toArray()) {
         const QJsonObject source = value.toObject();
         theOut << "  " << source[QStringLiteral("source")].toString() << ' '
                << source[QStringLiteral("name")].toString() << ", "
-               << (source[QStringLiteral("enabled")].toBool() ? "enabled" : "not enabled") << '\n';
+               << (source[QStringLiteral("enabled")].toBool() ? tr("enabled") : tr("not enabled")) << '\n';
         const QJsonArray payments = source[QStringLiteral("payments")].toArray();
         if (payments.isEmpty())
-            theOut << "    no payment\n";
+            theOut << "    " << tr("no payment") << '\n';
         for (const QJsonValue& paymentValue : payments) {
             const QJsonObject payment = paymentValue.toObject();
             writeColumns(theOut,
@@ -229,26 +231,29 @@ void ZTAPMOrderingCommand::writeText(const QJsonObject& theReport, QTextStream& 
                          {3, 14, 26});
         }
     }
-    theOut << "Starting payment: " << paymentText(theReport[QStringLiteral("startingPayment")].toObject())
-           << "\nStarting shipment method: " << theReport[QStringLiteral("startingShipmentMethod")].toInt()
-           << "\nShipment methods:\n";
+    theOut
+        << tr("Starting payment: %1")
+               .arg(paymentText(theReport[QStringLiteral("startingPayment")].toObject()))
+        << '\n'
+        << tr("Starting shipment method: %1").arg(theReport[QStringLiteral("startingShipmentMethod")].toInt())
+        << '\n'
+        << tr("Shipment methods:") << '\n';
     for (const QJsonValue& value : theReport[QStringLiteral("shipmentMethods")].toArray()) {
         const QJsonObject method = value.toObject();
         const QJsonValue field = method[QStringLiteral("additionalField")];
-        QStringList cells{
-            QString(), QString::number(method[QStringLiteral("id")].toInt()),
-            method[QStringLiteral("name")].toString() +
-                (method[QStringLiteral("default")].toBool() ? QStringLiteral(" (default)") : QString()),
-            amount(method[QStringLiteral("fee")])};
+        QStringList cells{QString(), QString::number(method[QStringLiteral("id")].toInt()),
+                          method[QStringLiteral("name")].toString() +
+                              (method[QStringLiteral("default")].toBool() ? tr(" (default)") : QString()),
+                          amount(method[QStringLiteral("fee")])};
         // The fee is padded only when the field follows it.
         QList<int> widths{1, 4, 40};
         if (!field.isNull()) {
-            cells.append(QStringLiteral("asks for: %1").arg(field.toString()));
+            cells.append(tr("asks for: %1").arg(field.toString()));
             widths.append(10);
         }
         writeColumns(theOut, cells, widths);
     }
-    theOut << "Shipping groups, in price-list order:\n";
+    theOut << tr("Shipping groups, in price-list order:") << '\n';
     for (const QJsonValue& value : theReport[QStringLiteral("shippingGroups")].toArray()) {
         const QJsonObject group = value.toObject();
         QStringList papers;
@@ -257,19 +262,24 @@ void ZTAPMOrderingCommand::writeText(const QJsonObject& theReport, QTextStream& 
         writeColumns(theOut,
                      {group[QStringLiteral("active")].toBool() ? QStringLiteral("*") : QString(),
                       groupText(group[QStringLiteral("id")]), group[QStringLiteral("name")].toString(),
-                      QStringLiteral("transfer model %1").arg(group[QStringLiteral("transferModel")].toInt()),
-                      QStringLiteral("papers %1").arg(papers.join(QLatin1Char(',')))},
+                      tr("transfer model %1").arg(group[QStringLiteral("transferModel")].toInt()),
+                      tr("papers %1").arg(papers.join(QLatin1Char(',')))},
                      {1, 4, 34, 17});
     }
-    theOut << "  (* active: named and with articles)\n";
-    theOut << "Currency: " << theReport[QStringLiteral("currency")].toString() << ", "
-           << theReport[QStringLiteral("sample")].toString();
+    theOut << "  " << tr("(* active: named and with articles)") << '\n';
+    theOut << tr("Currency: %1, %2")
+                  .arg(theReport[QStringLiteral("currency")].toString(),
+                       theReport[QStringLiteral("sample")].toString());
     const QJsonValue secondary = theReport[QStringLiteral("secondaryCurrency")];
-    if (!secondary.isNull())
-        theOut << "; secondary " << secondary.toString() << ", "
-               << theReport[QStringLiteral("secondarySample")].toString() << " (factor "
-               << theReport[QStringLiteral("secondaryCurrencyFactor")].toDouble() << ')';
-    theOut << "\nDiscount texts:\n";
+    if (!secondary.isNull()) {
+        // The factor as QTextStream writes a double: shortest form, C locale.
+        QString factor;
+        QTextStream(&factor) << theReport[QStringLiteral("secondaryCurrencyFactor")].toDouble();
+        theOut << tr("; secondary %1, %2 (factor %3)")
+                      .arg(secondary.toString(), theReport[QStringLiteral("secondarySample")].toString(),
+                           factor);
+    }
+    theOut << '\n' << tr("Discount texts:") << '\n';
     for (const QJsonValue& value : theReport[QStringLiteral("discountTexts")].toArray()) {
         const QJsonObject text = value.toObject();
         writeColumns(theOut,
@@ -280,23 +290,28 @@ void ZTAPMOrderingCommand::writeText(const QJsonObject& theReport, QTextStream& 
     const QJsonObject rules = theReport[QStringLiteral("rules")].toObject();
     const QJsonObject policy = rules[QStringLiteral("passwordPolicy")].toObject();
     const int coupons = rules[QStringLiteral("maxCoupons")].toInt();
-    theOut << "Rules:\n"
-           << "  single sign-on        " << yesNo(rules[QStringLiteral("singleSignOn")]) << " ("
-           << rules[QStringLiteral("connectStrategy")].toString() << ")\n"
-           << "  login URL             " << rules[QStringLiteral("loginUrl")].toString() << '\n'
-           << "  account data          "
-           << (rules[QStringLiteral("canModifyAccountData")].toBool() ? "can be changed"
-                                                                      : "cannot be changed")
-           << '\n'
-           << "  password policy       at least " << policy[QStringLiteral("minLength")].toInt()
-           << " characters; " << policy[QStringLiteral("yellow")].toInt() << " points fair, "
-           << policy[QStringLiteral("green")].toInt() << " good\n"
-           << "  coupons               "
-           << (coupons == std::numeric_limits<qint32>::max() ? QStringLiteral("any number")
-                                                             : QString::number(coupons))
-           << ", discount coupons " << rules[QStringLiteral("maxDiscountCoupons")].toInt() << '\n'
-           << "  double opt-in         " << yesNo(rules[QStringLiteral("doubleOptIn")]) << '\n'
-           << "  address check         " << yesNo(rules[QStringLiteral("addressCheck")]) << '\n'
-           << "  sales tax check       " << yesNo(rules[QStringLiteral("salesTaxCheck")]) << '\n'
-           << "  default selling pages " << rules[QStringLiteral("defaultSellingPages")].toInt() << '\n';
+    // One rule a line, its name in a column of 22.
+    const auto rule = [&theOut](const QString& theName, const QString& theValue) {
+        theOut << "  " << theName.leftJustified(21) << ' ' << theValue << '\n';
+    };
+    theOut << tr("Rules:") << '\n';
+    rule(tr("single sign-on"),
+         QStringLiteral("%1 (%2)").arg(yesNo(rules[QStringLiteral("singleSignOn")]),
+                                       rules[QStringLiteral("connectStrategy")].toString()));
+    rule(tr("login URL"), rules[QStringLiteral("loginUrl")].toString());
+    rule(tr("account data"), rules[QStringLiteral("canModifyAccountData")].toBool()
+                                 ? tr("can be changed")
+                                 : tr("cannot be changed"));
+    rule(tr("password policy"), tr("at least %1 characters; %2 points fair, %3 good")
+                                    .arg(policy[QStringLiteral("minLength")].toInt())
+                                    .arg(policy[QStringLiteral("yellow")].toInt())
+                                    .arg(policy[QStringLiteral("green")].toInt()));
+    rule(tr("coupons"),
+         tr("%1, discount coupons %2")
+             .arg(coupons == std::numeric_limits<qint32>::max() ? tr("any number") : QString::number(coupons),
+                  QString::number(rules[QStringLiteral("maxDiscountCoupons")].toInt())));
+    rule(tr("double opt-in"), yesNo(rules[QStringLiteral("doubleOptIn")]));
+    rule(tr("address check"), yesNo(rules[QStringLiteral("addressCheck")]));
+    rule(tr("sales tax check"), yesNo(rules[QStringLiteral("salesTaxCheck")]));
+    rule(tr("default selling pages"), QString::number(rules[QStringLiteral("defaultSellingPages")].toInt()));
 }

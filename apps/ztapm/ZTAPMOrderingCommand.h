@@ -9,6 +9,8 @@
 // shipping groups, discount texts and the account rules.
 class ZTAPMOrderingCommand : public ZTAPMCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMOrderingCommand)
+
 public:
     QString name() const override;
     QString synopsis() const override;

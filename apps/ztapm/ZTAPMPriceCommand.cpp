@@ -19,32 +19,31 @@ QString ZTAPMPriceCommand::synopsis() const
 
 QString ZTAPMPriceCommand::summary() const
 {
-    return QStringLiteral("the amount for COUNT pieces, with every model's amount\n"
-                          "[--source S] [--sum CENTS] [--model x]");
+    return tr("the amount for COUNT pieces, with every model's amount") +
+           QStringLiteral("\n[--source S] [--sum CENTS] [--model x]");
 }
 
 QList<QCommandLineOption> ZTAPMPriceCommand::options() const
 {
-    return {QCommandLineOption(QStringLiteral("source"),
-                               QStringLiteral("price: the order source (default %1).")
-                                   .arg(orderSourceName(defaultOrderSource())),
-                               QStringLiteral("S"), orderSourceName(defaultOrderSource())),
+    return {QCommandLineOption(
+                QStringLiteral("source"),
+                tr("price: the order source (default %1).").arg(orderSourceName(defaultOrderSource())),
+                QStringLiteral("S"), orderSourceName(defaultOrderSource())),
             QCommandLineOption(QStringLiteral("sum"),
-                               QStringLiteral("price: the goods' sum in hundredths, for \"z\" rows."),
+                               tr("price: the goods' sum in hundredths, for \"z\" rows."),
                                QStringLiteral("CENTS"), QStringLiteral("0")),
-            QCommandLineOption(QStringLiteral("model"),
-                               QStringLiteral("price: \"x\" to price an express fee."), QStringLiteral("M"))};
+            QCommandLineOption(QStringLiteral("model"), tr("price: \"x\" to price an express fee."),
+                               QStringLiteral("M"))};
 }
 
 int ZTAPMPriceCommand::readArguments(const QStringList& theArguments, const QCommandLineParser& theParser)
 {
     if (theArguments.size() != 2)
-        return fail(UsageError,
-                    QStringLiteral("usage: price ID COUNT [--source S] [--sum CENTS] [--model x]"));
+        return fail(UsageError, tr("usage: price ID COUNT [--source S] [--sum CENTS] [--model x]"));
     bool countOk = false;
     myCount = theArguments.at(1).toInt(&countOk);
     if (!countOk || myCount < 0)
-        return fail(UsageError, QStringLiteral("'%1' is no number of pieces").arg(theArguments.at(1)));
+        return fail(UsageError, tr("'%1' is no number of pieces").arg(theArguments.at(1)));
 
     const QString sourceName = theParser.value(QStringLiteral("source"));
     myOrderSource = orderSourceNamed(sourceName);
@@ -52,19 +51,18 @@ int ZTAPMPriceCommand::readArguments(const QStringList& theArguments, const QCom
         QStringList names;
         for (const ZTOrderSource& source : ZTOrderSource::all())
             names.append(orderSourceName(source));
-        return fail(UsageError, QStringLiteral("unknown order source '%1'; use %2")
-                                    .arg(sourceName, joined(names, QStringLiteral("or"))));
+        return fail(UsageError,
+                    tr("unknown order source '%1'; use %2").arg(sourceName, joined(names, tr("or"))));
     }
     bool sumOk = false;
     myBillingSum = theParser.value(QStringLiteral("sum")).toInt(&sumOk);
     if (!sumOk || myBillingSum < 0)
-        return fail(UsageError, QStringLiteral("'%1' is no goods' sum in hundredths")
-                                    .arg(theParser.value(QStringLiteral("sum"))));
+        return fail(UsageError,
+                    tr("'%1' is no goods' sum in hundredths").arg(theParser.value(QStringLiteral("sum"))));
     myExpress = theParser.isSet(QStringLiteral("model"));
     if (myExpress && theParser.value(QStringLiteral("model")) != QLatin1String("x"))
-        return fail(
-            UsageError,
-            QStringLiteral("--model takes only x (an express fee); the engine chooses every other model"));
+        return fail(UsageError,
+                    tr("--model takes only x (an express fee); the engine chooses every other model"));
     return readArticleId(theArguments.first(), &myArticleId);
 }
 
@@ -96,7 +94,7 @@ int ZTAPMPriceCommand::run(QJsonObject& theReport)
 
 void ZTAPMPriceCommand::writeText(const QJsonObject& theReport, QTextStream& theOut) const
 {
-    theOut << QStringLiteral("Article %1, %2 piece(s), order source %3")
+    theOut << tr("Article %1, %2 piece(s), order source %3")
                   .arg(theReport[QStringLiteral("article")].toInt())
                   .arg(theReport[QStringLiteral("count")].toInt())
                   .arg(theReport[QStringLiteral("source")].toString())
@@ -105,11 +103,12 @@ void ZTAPMPriceCommand::writeText(const QJsonObject& theReport, QTextStream& the
     for (const QJsonValue& value : theReport[QStringLiteral("candidates")].toArray()) {
         const QJsonObject candidate = value.toObject();
         const QString model = candidate[QStringLiteral("model")].toString();
-        theOut << "  model " << model.leftJustified(7) << amountText(candidate[QStringLiteral("amount")])
-               << (model == winner ? QStringLiteral("  <- chosen") : QString()) << '\n';
+        theOut << "  " << tr("model %1").arg(model.leftJustified(7))
+               << amountText(candidate[QStringLiteral("amount")])
+               << (model == winner ? tr("  <- chosen") : QString()) << '\n';
     }
-    theOut << "Amount: " << amountText(theReport[QStringLiteral("amount")]);
-    if (!winner.isEmpty())
-        theOut << " (model " << winner << ')';
-    theOut << '\n';
+    const QString amount = amountText(theReport[QStringLiteral("amount")]);
+    theOut << (winner.isEmpty() ? tr("Amount: %1").arg(amount)
+                                : tr("Amount: %1 (model %2)").arg(amount, winner))
+           << '\n';
 }

@@ -8,6 +8,8 @@
 // every model of the article would give.
 class ZTAPMPriceCommand : public ZTAPMCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMPriceCommand)
+
 public:
     QString name() const override;
     QString synopsis() const override;

@@ -12,10 +12,6 @@
 
 namespace {
 
-const QString theUsage =
-    QStringLiteral("usage: quote ID:COUNT [ID:COUNT ...] [--source S] [--payment ID[_BRAND]] "
-                   "[--shipment ID] [--express standard|express]");
-
 QJsonObject positionJson(const ZTAPMBillPositionAbstract* thePosition, const QString& theModel)
 {
     const ZTProductAbstract* product = thePosition->product();
@@ -50,37 +46,39 @@ QString ZTAPMQuoteCommand::synopsis() const
 
 QString ZTAPMQuoteCommand::summary() const
 {
-    return QStringLiteral("one bill per shipping group of the basket, with fees and the total\n"
-                          "[--source S] [--payment ID[_BRAND]] [--shipment ID] [--express standard|express]");
+    return tr("one bill per shipping group of the basket, with fees and the total") +
+           QStringLiteral(
+               "\n[--source S] [--payment ID[_BRAND]] [--shipment ID] [--express standard|express]");
 }
 
 QList<QCommandLineOption> ZTAPMQuoteCommand::options() const
 {
-    return {QCommandLineOption(QStringLiteral("source"),
-                               QStringLiteral("price, quote: the order source (default %1).")
-                                   .arg(orderSourceName(defaultOrderSource())),
-                               QStringLiteral("S"), orderSourceName(defaultOrderSource())),
+    return {QCommandLineOption(
+                QStringLiteral("source"),
+                tr("price, quote: the order source (default %1).").arg(orderSourceName(defaultOrderSource())),
+                QStringLiteral("S"), orderSourceName(defaultOrderSource())),
             QCommandLineOption(QStringLiteral("payment"),
-                               QStringLiteral("quote: the payment method, ID or ID_BRAND (default the order "
-                                              "source's starting payment)."),
+                               tr("quote: the payment method, ID or ID_BRAND (default the order source's "
+                                  "starting payment)."),
                                QStringLiteral("ID")),
-            QCommandLineOption(QStringLiteral("shipment"), QStringLiteral("quote: the shipment method id."),
+            QCommandLineOption(QStringLiteral("shipment"), tr("quote: the shipment method id."),
                                QStringLiteral("ID")),
             QCommandLineOption(QStringLiteral("express"),
-                               QStringLiteral("quote: the express wish, standard or express (default none)."),
+                               tr("quote: the express wish, standard or express (default none)."),
                                QStringLiteral("E"))};
 }
 
 int ZTAPMQuoteCommand::readArguments(const QStringList& theArguments, const QCommandLineParser& theParser)
 {
     if (theArguments.isEmpty())
-        return fail(UsageError, theUsage);
+        return fail(UsageError, tr("usage: quote ID:COUNT [ID:COUNT ...] [--source S] [--payment ID[_BRAND]] "
+                                   "[--shipment ID] [--express standard|express]"));
     for (const QString& argument : theArguments) {
         const QStringList parts = argument.split(QLatin1Char(':'));
         bool countOk = false;
         const int count = parts.size() == 2 ? parts.at(1).toInt(&countOk) : 0;
         if (!countOk || count < 0)
-            return fail(UsageError, QStringLiteral("'%1' is no item ID:COUNT").arg(argument));
+            return fail(UsageError, tr("'%1' is no item ID:COUNT").arg(argument));
         int id = 0;
         if (const int status = readArticleId(parts.at(0), &id))
             return status;
@@ -90,14 +88,14 @@ int ZTAPMQuoteCommand::readArguments(const QStringList& theArguments, const QCom
     const QString sourceName = theParser.value(QStringLiteral("source"));
     myOrderSource = orderSourceNamed(sourceName);
     if (!myOrderSource.isValid())
-        return fail(UsageError, QStringLiteral("unknown order source '%1'; see --help").arg(sourceName));
+        return fail(UsageError, tr("unknown order source '%1'; see --help").arg(sourceName));
     myPayment = theParser.value(QStringLiteral("payment"));
     if (theParser.isSet(QStringLiteral("shipment"))) {
         bool ok = false;
         myShipment = theParser.value(QStringLiteral("shipment")).toInt(&ok);
         if (!ok || myShipment < 0)
-            return fail(UsageError, QStringLiteral("'%1' is no shipment method id")
-                                        .arg(theParser.value(QStringLiteral("shipment"))));
+            return fail(UsageError,
+                        tr("'%1' is no shipment method id").arg(theParser.value(QStringLiteral("shipment"))));
     }
     const QString express = theParser.value(QStringLiteral("express"));
     if (express == QLatin1String("standard"))
@@ -105,7 +103,7 @@ int ZTAPMQuoteCommand::readArguments(const QStringList& theArguments, const QCom
     else if (express == QLatin1String("express"))
         myExpressType = ZTExpressType(ZTExpressTypeExpress);
     else if (theParser.isSet(QStringLiteral("express")))
-        return fail(UsageError, QStringLiteral("--express takes standard or express, not '%1'").arg(express));
+        return fail(UsageError, tr("--express takes standard or express, not '%1'").arg(express));
     return Success;
 }
 
@@ -129,8 +127,8 @@ int ZTAPMQuoteCommand::run(QJsonObject& theReport)
         const ZTPaymentMethod method =
             details->paymentMethod(myOrderSource, ZTPaymentId(id), myPayment.section(QLatin1Char('_'), 1));
         if (!ok || !method.isValid())
-            return fail(NotFound, QStringLiteral("no payment method '%1' for %2")
-                                      .arg(myPayment, orderSourceName(myOrderSource)));
+            return fail(NotFound,
+                        tr("no payment method '%1' for %2").arg(myPayment, orderSourceName(myOrderSource)));
         status.setPaymentMethod(method);
     }
     // As the client starts an order: the key account's starting shipment unless one is named.
@@ -138,7 +136,7 @@ int ZTAPMQuoteCommand::run(QJsonObject& theReport)
     if (myShipment >= 0) {
         const ZTShipmentMethod method = details->shipmentMethods().value(myShipment);
         if (!method.isValid())
-            return fail(NotFound, QStringLiteral("no shipment method %1").arg(myShipment));
+            return fail(NotFound, tr("no shipment method %1").arg(myShipment));
         status.setShipmentMethod(method);
     }
 
@@ -190,35 +188,38 @@ int ZTAPMQuoteCommand::run(QJsonObject& theReport)
 
 void ZTAPMQuoteCommand::writeText(const QJsonObject& theReport, QTextStream& theOut) const
 {
-    theOut << QStringLiteral("Quote, order source %1, payment %2, shipment %3, express %4")
+    // The express wish is one of the keywords of JSON.
+    const QString express = theReport[QStringLiteral("express")].toString();
+    const QString expressText = express == QLatin1String("express")    ? tr("express")
+                                : express == QLatin1String("standard") ? tr("standard")
+                                                                       : tr("none");
+    theOut << tr("Quote, order source %1, payment %2, shipment %3, express %4")
                   .arg(theReport[QStringLiteral("source")].toString(),
                        theReport[QStringLiteral("payment")].toString().isEmpty()
-                           ? QStringLiteral("none")
-                           : theReport[QStringLiteral("payment")].toString())
-                  .arg(theReport[QStringLiteral("shipment")].toInt())
-                  .arg(theReport[QStringLiteral("express")].toString())
+                           ? tr("none")
+                           : theReport[QStringLiteral("payment")].toString(),
+                       QString::number(theReport[QStringLiteral("shipment")].toInt()), expressText)
            << '\n';
     for (const QJsonValue& value : theReport[QStringLiteral("bills")].toArray()) {
         const QJsonObject bill = value.toObject();
         theOut << '\n'
-               << QStringLiteral("Shipping group %1 %2%3")
-                      .arg(groupText(bill[QStringLiteral("group")]), bill[QStringLiteral("name")].toString(),
-                           bill[QStringLiteral("valid")].toBool() ? QString()
-                                                                  : QStringLiteral(" (not valid)"))
+               << (bill[QStringLiteral("valid")].toBool() ? tr("Shipping group %1 %2")
+                                                          : tr("Shipping group %1 %2 (not valid)"))
+                      .arg(groupText(bill[QStringLiteral("group")]), bill[QStringLiteral("name")].toString())
                << '\n';
         for (const QJsonValue& entry : bill[QStringLiteral("positions")].toArray()) {
             const QJsonObject position = entry.toObject();
             QStringList cells{QString::number(position[QStringLiteral("article")].toInt()),
                               position[QStringLiteral("name")].toString()};
             if (position.contains(QStringLiteral("valid"))) {
-                cells << QStringLiteral("not orderable");
+                cells << tr("not orderable");
                 writeColumns(theOut, QStringList{QString()} + cells, {1, 6, 34, 0});
                 continue;
             }
-            const QString nonOffer = position.contains(QStringLiteral("nonOfferPrice"))
-                                         ? QStringLiteral(" (instead of %1)")
-                                               .arg(amountText(position[QStringLiteral("nonOfferPrice")]))
-                                         : QString();
+            const QString nonOffer =
+                position.contains(QStringLiteral("nonOfferPrice"))
+                    ? tr(" (instead of %1)").arg(amountText(position[QStringLiteral("nonOfferPrice")]))
+                    : QString();
             cells << QStringLiteral("%1:%2")
                          .arg(position[QStringLiteral("model")].toString())
                          .arg(position[QStringLiteral("level")].toInt())
@@ -232,20 +233,21 @@ void ZTAPMQuoteCommand::writeText(const QJsonObject& theReport, QTextStream& the
         const QJsonValue transfer = bill[QStringLiteral("transfer")];
         if (transfer.isObject()) {
             const QJsonObject fee = transfer.toObject();
-            theOut << QStringLiteral("  Transfer (article %1): %2 (unit %3, base %4)")
-                          .arg(fee[QStringLiteral("article")].toInt())
-                          .arg(amountText(fee[QStringLiteral("price")]),
+            theOut << "  "
+                   << tr("Transfer (article %1): %2 (unit %3, base %4)")
+                          .arg(QString::number(fee[QStringLiteral("article")].toInt()),
+                               amountText(fee[QStringLiteral("price")]),
                                amountText(fee[QStringLiteral("unitTransfer")]),
                                amountText(fee[QStringLiteral("baseTransfer")]))
                    << '\n';
         } else {
-            theOut << "  Transfer: none\n";
+            theOut << "  " << tr("Transfer: none") << '\n';
         }
-        theOut << "  Payment fee: " << amountText(bill[QStringLiteral("paymentFee")]) << '\n'
-               << "  Express fee: " << amountText(bill[QStringLiteral("expressFee")]) << '\n'
-               << "  Total: " << amountText(bill[QStringLiteral("total")]) << '\n';
+        theOut << "  " << tr("Payment fee: %1").arg(amountText(bill[QStringLiteral("paymentFee")])) << '\n'
+               << "  " << tr("Express fee: %1").arg(amountText(bill[QStringLiteral("expressFee")])) << '\n'
+               << "  " << tr("Total: %1").arg(amountText(bill[QStringLiteral("total")])) << '\n';
     }
     theOut << '\n'
-           << "Shipment fee: " << amountText(theReport[QStringLiteral("shipmentFee")]) << '\n'
-           << "Total: " << amountText(theReport[QStringLiteral("total")]) << '\n';
+           << tr("Shipment fee: %1").arg(amountText(theReport[QStringLiteral("shipmentFee")])) << '\n'
+           << tr("Total: %1").arg(amountText(theReport[QStringLiteral("total")])) << '\n';
 }

@@ -11,6 +11,8 @@
 // group with its positions, transfer and fees, then the shipment fee and the grand total.
 class ZTAPMQuoteCommand : public ZTAPMCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMQuoteCommand)
+
 public:
     QString name() const override;
     QString synopsis() const override;

@@ -18,7 +18,7 @@ QString ZTAPMStartupCommand::synopsis() const
 
 QString ZTAPMStartupCommand::summary() const
 {
-    return QStringLiteral("run the engine's start-up and report what it loaded");
+    return tr("run the engine's start-up and report what it loaded");
 }
 
 int ZTAPMStartupCommand::readArguments(const QStringList& theArguments, const QCommandLineParser&)
@@ -28,14 +28,17 @@ int ZTAPMStartupCommand::readArguments(const QStringList& theArguments, const QC
 
 int ZTAPMStartupCommand::run(QJsonObject& theReport)
 {
+    // The names are the same in every language in JSON; the text report translates them.
     const QList<QPair<QString, ZTResourceFile>> files{
-        {QStringLiteral("products"), ZTResourceFile(ZTKeyAccountDataType(ZTKeyAccountDataTypeProducts))},
-        {QStringLiteral("prices"), ZTResourceFile(ZTKeyAccountDataType(ZTKeyAccountDataTypePrices))},
-        {QStringLiteral("delivery times"),
+        {QStringLiteral(QT_TR_NOOP("products")),
+         ZTResourceFile(ZTKeyAccountDataType(ZTKeyAccountDataTypeProducts))},
+        {QStringLiteral(QT_TR_NOOP("prices")),
+         ZTResourceFile(ZTKeyAccountDataType(ZTKeyAccountDataTypePrices))},
+        {QStringLiteral(QT_TR_NOOP("delivery times")),
          ZTResourceFile(ZTKeyAccountDataType(ZTKeyAccountDataTypeDeliveryTimes))},
-        {QStringLiteral("ordering details"), ZTResourceFile(ZTResourceFileTypeOrderingDetails)},
-        {QStringLiteral("currencies"), ZTResourceFile(ZTResourceFileTypeCurrencies)},
-        {QStringLiteral("configuration"), ZTResourceFile(ZTResourceFileTypeConfig)},
+        {QStringLiteral(QT_TR_NOOP("ordering details")), ZTResourceFile(ZTResourceFileTypeOrderingDetails)},
+        {QStringLiteral(QT_TR_NOOP("currencies")), ZTResourceFile(ZTResourceFileTypeCurrencies)},
+        {QStringLiteral(QT_TR_NOOP("configuration")), ZTResourceFile(ZTResourceFileTypeConfig)},
     };
     QJsonArray documents;
     for (const auto& [name, file] : files) {
@@ -48,9 +51,10 @@ int ZTAPMStartupCommand::run(QJsonObject& theReport)
 
     const ZTAPMDataBase* dataBase = ZTSingleton<ZTAPMDataBase>::instance();
     // In the order of ZTAPMDataBase::registries().
-    const QStringList registryNames{QStringLiteral("products"), QStringLiteral("payment fees"),
-                                    QStringLiteral("transfer fees"), QStringLiteral("express fees"),
-                                    QStringLiteral("shipment method fees")};
+    const QStringList registryNames{
+        QStringLiteral(QT_TR_NOOP("products")), QStringLiteral(QT_TR_NOOP("payment fees")),
+        QStringLiteral(QT_TR_NOOP("transfer fees")), QStringLiteral(QT_TR_NOOP("express fees")),
+        QStringLiteral(QT_TR_NOOP("shipment method fees"))};
     const QList<int> counts = dataBase->productCounts();
     QJsonArray registries;
     for (int i = 0; i < registryNames.size(); ++i)
@@ -67,28 +71,35 @@ int ZTAPMStartupCommand::run(QJsonObject& theReport)
 
 void ZTAPMStartupCommand::writeText(const QJsonObject& theReport, QTextStream& theOut) const
 {
-    theOut << "Key account: " << theReport[QStringLiteral("keyAccount")].toString() << '\n' << "Documents:\n";
+    // The names of documents and registries come in English from the report.
+    const auto translated = [](const QJsonValue& theName) {
+        return tr(theName.toString().toUtf8().constData());
+    };
+    theOut << tr("Key account: %1").arg(theReport[QStringLiteral("keyAccount")].toString()) << '\n'
+           << tr("Documents:") << '\n';
     for (const QJsonValue& value : theReport[QStringLiteral("documents")].toArray()) {
         const QJsonObject document = value.toObject();
         const bool present = document[QStringLiteral("present")].toBool();
-        writeColumns(theOut,
-                     {QStringLiteral(" "), document[QStringLiteral("name")].toString(),
-                      document[QStringLiteral("file")].toString(),
-                      present ? QStringLiteral("%1 bytes").arg(document[QStringLiteral("bytes")].toInteger())
-                              : QStringLiteral("missing")},
-                     {1, 18, 22});
+        writeColumns(
+            theOut,
+            {QStringLiteral(" "), translated(document[QStringLiteral("name")]),
+             document[QStringLiteral("file")].toString(),
+             present ? tr("%1 bytes").arg(document[QStringLiteral("bytes")].toInteger()) : tr("missing")},
+            {1, 18, 22});
     }
-    theOut << "Products document read into the registries: "
-           << theReport[QStringLiteral("productsRead")].toInt() << " time(s)\nRegistries:\n";
+    theOut << tr("Products document read into the registries: %1 time(s)")
+                  .arg(theReport[QStringLiteral("productsRead")].toInt())
+           << '\n'
+           << tr("Registries:") << '\n';
     for (const QJsonValue& value : theReport[QStringLiteral("registries")].toArray()) {
         const QJsonObject registry = value.toObject();
         writeColumns(theOut,
-                     {QStringLiteral(" "), registry[QStringLiteral("name")].toString(),
+                     {QStringLiteral(" "), translated(registry[QStringLiteral("name")]),
                       QString::number(registry[QStringLiteral("products")].toInt())},
                      {1, 22});
     }
     const QJsonArray reported = theReport[QStringLiteral("warnings")].toArray();
-    theOut << "Warnings: " << reported.size() << '\n';
+    theOut << tr("Warnings: %1").arg(reported.size()) << '\n';
     for (const QJsonValue& warning : reported)
         theOut << "  " << warning.toString() << '\n';
 }

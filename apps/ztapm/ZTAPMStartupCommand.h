@@ -6,6 +6,8 @@
 // "startup": what the engine's start-up found and loaded, and the warnings the documents caused.
 class ZTAPMStartupCommand : public ZTAPMCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMStartupCommand)
+
 public:
     QString name() const override;
     QString synopsis() const override;

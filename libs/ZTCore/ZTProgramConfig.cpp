@@ -33,6 +33,26 @@ QString libraryDirectory()
     return QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath();
 }
 
+// An installed program finds what was installed with it, first beside its own binary, then beside
+// this library, then where the build meant to install it; a program run from the build tree
+// normally finds none of these and takes theUninstalled, the copy of the source or build tree.
+QString installedOrBuildDirectory(const QString& theFromBinDir, const QString& theFromLibDir,
+                                  const QString& theInstalled, const QString& theUninstalled)
+{
+    QStringList installed;
+    if (QCoreApplication::instance() != nullptr)
+        installed << QCoreApplication::applicationDirPath() + QLatin1Char('/') + theFromBinDir;
+    const QString library = libraryDirectory();
+    if (!library.isEmpty())
+        installed << library + QLatin1Char('/') + theFromLibDir;
+    installed << theInstalled;
+    for (const QString& directory : std::as_const(installed)) {
+        if (QFileInfo(directory).isDir())
+            return absoluteClean(directory);
+    }
+    return absoluteClean(theUninstalled);
+}
+
 } // namespace
 
 ZTProgramConfig::ZTProgramConfig() = default;
@@ -88,21 +108,16 @@ void ZTProgramConfig::setKeyAccountDirectory(const QString& theDirectory)
 
 QString ZTProgramConfig::defaultKeyAccountDirectory()
 {
-    // An installed program finds the copy installed with it, first beside its own binary, then
-    // beside this library, then where the build meant to install it; a program run from the build
-    // tree normally finds none of these and takes the sources'.
-    QStringList installed;
-    if (QCoreApplication::instance() != nullptr)
-        installed << QCoreApplication::applicationDirPath() + QStringLiteral("/" ZT_DEMO_DIR_FROM_BINDIR);
-    const QString library = libraryDirectory();
-    if (!library.isEmpty())
-        installed << library + QStringLiteral("/" ZT_DEMO_DIR_FROM_LIBDIR);
-    installed << QStringLiteral(ZT_INSTALLED_DEMO_DIR);
-    for (const QString& directory : std::as_const(installed)) {
-        if (QFileInfo(directory).isDir())
-            return absoluteClean(directory);
-    }
-    return absoluteClean(QStringLiteral(ZT_SOURCE_DEMO_DIR));
+    return installedOrBuildDirectory(
+        QStringLiteral(ZT_DEMO_DIR_FROM_BINDIR), QStringLiteral(ZT_DEMO_DIR_FROM_LIBDIR),
+        QStringLiteral(ZT_INSTALLED_DEMO_DIR), QStringLiteral(ZT_SOURCE_DEMO_DIR));
+}
+
+QString ZTProgramConfig::translationsDirectory()
+{
+    return installedOrBuildDirectory(
+        QStringLiteral(ZT_TRANSLATIONS_DIR_FROM_BINDIR), QStringLiteral(ZT_TRANSLATIONS_DIR_FROM_LIBDIR),
+        QStringLiteral(ZT_INSTALLED_TRANSLATIONS_DIR), QStringLiteral(ZT_BUILD_TRANSLATIONS_DIR));
 }
 
 QByteArray ZTProgramConfig::desKey() const

@@ -34,6 +34,9 @@ public:
     // also tells the engine.
     void setKeyAccountDirectory(const QString& theDirectory);
     static QString defaultKeyAccountDirectory();
+    // The compiled translation catalogues (*.qm): the installed share/ztapm/translations, found
+    // like the demo key account, else the build tree's translations directory.
+    static QString translationsDirectory();
 
     // The 8 bytes of the DES key of ZTCrypto.
     QByteArray desKey() const;

@@ -4,8 +4,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
 
 // The ztapm program as a person or a script runs it: exit statuses, messages, the JSON it prints and,
 // through golden files, every byte of its output.
@@ -21,9 +24,15 @@ class TestZtapm : public QObject
         QJsonObject json() const { return QJsonDocument::fromJson(out).object(); }
     };
 
-    static Run ztapm(const QStringList& theArguments)
+    // Runs in English whatever the runner's locale, unless theLocale names another LANG.
+    static Run ztapm(const QStringList& theArguments, const QString& theLocale = QStringLiteral("C.UTF-8"))
     {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(QStringLiteral("LC_ALL"));
+        environment.remove(QStringLiteral("LC_MESSAGES"));
+        environment.insert(QStringLiteral("LANG"), theLocale);
         QProcess process;
+        process.setProcessEnvironment(environment);
         process.start(QStringLiteral(ZTAPM_PROGRAM), theArguments);
         Run run;
         if (!process.waitForFinished(60000))
@@ -148,6 +157,9 @@ private Q_SLOTS:
         QTest::newRow("ordering: bad source")
             << QStringList{QStringLiteral("ordering"), QStringLiteral("--source"), QStringLiteral("cd-mail")}
             << 2 << "unknown order source 'cd-mail'";
+        QTest::newRow("unknown language")
+            << QStringList{QStringLiteral("--lang"), QStringLiteral("fr"), QStringLiteral("catalogue")} << 2
+            << "--lang takes en or de, not 'fr'";
         QTest::newRow("unknown article") << QStringList{QStringLiteral("article"), QStringLiteral("4711")}
                                          << 3 << "article 4711 does not exist";
         QTest::newRow("missing directory")
@@ -197,6 +209,49 @@ private Q_SLOTS:
         QCOMPARE(run.err.contains("does not fit in 32 bits: no price"), warns);
         if (arguments.first() == QLatin1String("price"))
             QCOMPARE(run.json()[QStringLiteral("amount")].toInt(), amount);
+    }
+
+    // The language: --lang wins, else a German LANG gives German and anything else English. The
+    // engine's texts are German in its code, the command's English; each is translated into the
+    // other language, JSON is the same in both.
+    void languages_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("headLine");
+        QTest::addColumn<QString>("photoPackText");
+
+        const QString english = QStringLiteral("Article 1001, 3 piece(s), order source FM");
+        const QString german = QStringLiteral("Artikel 1001, 3 Stück, Bestellweg FM");
+        QTest::newRow("--lang en") << "de_DE.UTF-8" << QStringList{"--lang", "en"} << english
+                                   << "%1 photo pack";
+        QTest::newRow("--lang de") << "C" << QStringList{"--lang", "de"} << german << "%1 Fotopack";
+        QTest::newRow("--lang=de") << "en_US.UTF-8" << QStringList{"--lang=de"} << german << "%1 Fotopack";
+        QTest::newRow("German LANG") << "de_DE.UTF-8" << QStringList() << german << "%1 Fotopack";
+        QTest::newRow("C") << "C" << QStringList() << english << "%1 photo pack";
+        QTest::newRow("French LANG") << "fr_FR.UTF-8" << QStringList() << english << "%1 photo pack";
+    }
+    void languages()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QStringList, options);
+        QFETCH(QString, headLine);
+        QFETCH(QString, photoPackText);
+        const Run price = ztapm(options + QStringList{"price", "1001", "3"}, locale);
+        QCOMPARE(price.exitCode, 0);
+        QVERIFY2(QString::fromUtf8(price.out).split(QLatin1Char('\n')).contains(headLine),
+                 price.out.constData());
+
+        // A default text of the engine, with the same JSON keys in every language.
+        const Run ordering = ztapm(options + QStringList{"ordering", "--json"}, locale);
+        QCOMPARE(ordering.exitCode, 0);
+        const QJsonArray texts = ordering.json()[QStringLiteral("discountTexts")].toArray();
+        QVERIFY(!texts.isEmpty());
+        const auto photoPack = std::find_if(texts.begin(), texts.end(), [](const QJsonValue& theText) {
+            return theText[QStringLiteral("model")].toString() == QLatin1String("U");
+        });
+        QVERIFY(photoPack != texts.end());
+        QCOMPARE((*photoPack)[QStringLiteral("package")].toString(), photoPackText);
     }
 
     void demoMillionPiecesHaveNoPrice()

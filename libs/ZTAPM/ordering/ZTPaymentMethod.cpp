@@ -17,11 +17,6 @@ constexpr qint32 creditCardsMetaId = 1;
 constexpr qint32 onlineTransfersMetaId = 9;
 constexpr qint32 applePayId = 40;
 
-QString tr(const char* theText)
-{
-    return QCoreApplication::translate("ZTPaymentMethod", theText);
-}
-
 bool isBillingLayout(const ZTAddressLayoutType& theLayout)
 {
     return theLayout == ZTAddressLayoutTypeBillingPrivate || theLayout == ZTAddressLayoutTypeBillingCompany;

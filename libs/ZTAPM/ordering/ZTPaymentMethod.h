@@ -6,6 +6,7 @@
 #include "ZTPaymentId.h"
 #include "ztapm_export.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QPair>
 #include <QSharedDataPointer>
@@ -23,6 +24,8 @@ class ZTProductAbstract;
 // Copy on write.
 class ZTAPM_EXPORT ZTPaymentMethod
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTPaymentMethod)
+
 public:
     // Invalid: no class, id -1.
     ZTPaymentMethod();

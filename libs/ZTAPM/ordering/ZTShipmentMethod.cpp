@@ -9,15 +9,6 @@
 #include <QDomElement>
 #include <QRegularExpressionValidator>
 
-namespace {
-
-QString tr(const char* theText)
-{
-    return QCoreApplication::translate("ZTShipmentMethod", theText);
-}
-
-} // namespace
-
 ZTShipmentMethod::ZTShipmentMethod() : d(new ZTShipmentMethodImpl)
 {}
 

@@ -4,6 +4,7 @@
 #include "ZTArticleId.h"
 #include "ztapm_export.h"
 
+#include <QCoreApplication>
 #include <QSharedDataPointer>
 #include <QString>
 #include <QUrl>
@@ -18,6 +19,8 @@ class ZTShipmentMethodImpl;
 // around it. Copy on write.
 class ZTAPM_EXPORT ZTShipmentMethod
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTShipmentMethod)
+
 public:
     static constexpr qint32 invalidId = -1;
     static constexpr qint32 defaultId = 0;
