@@ -31,6 +31,11 @@ QList<QCommandLineOption> ZTAPMCommand::options() const
     return {};
 }
 
+bool ZTAPMCommand::needsGuiApplication() const
+{
+    return false;
+}
+
 void ZTAPMCommand::collectMessage(QtMsgType theType, const QMessageLogContext&, const QString& theMessage)
 {
     if (theType == QtWarningMsg || theType == QtCriticalMsg || theType == QtFatalMsg)

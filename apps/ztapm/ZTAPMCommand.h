@@ -40,6 +40,8 @@ public:
     virtual QString summary() const = 0;
     // The options that only this command takes; the dispatcher refuses them with other commands.
     virtual QList<QCommandLineOption> options() const;
+    // Whether the command draws text, which takes a QGuiApplication; false for all that print.
+    virtual bool needsGuiApplication() const;
 
     // Reads the arguments after the command's name, and its options, before the engine starts.
     // Returns Success, or the status of a failure whose message is already written.

@@ -3,6 +3,7 @@
 #include "ZTAPMArticleCommand.h"
 #include "ZTAPMCatalogueCommand.h"
 #include "ZTAPMCommand.h"
+#include "ZTAPMLadderCommand.h"
 #include "ZTAPMOrderingCommand.h"
 #include "ZTAPMPriceCommand.h"
 #include "ZTAPMQuoteCommand.h"
@@ -13,6 +14,7 @@
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QGuiApplication>
 #include <QJsonDocument>
 #include <QRegularExpression>
 #include <QSet>
@@ -29,6 +31,8 @@ ZTAPMCommandLine::ZTAPMCommandLine()
     add<ZTAPMCatalogueCommand>();
     add<ZTAPMArticleCommand>();
     add<ZTAPMPriceCommand>();
+    // After price, whose --source brings the default that price relies on.
+    add<ZTAPMLadderCommand>();
     add<ZTAPMQuoteCommand>();
     add<ZTAPMOrderingCommand>();
 }
@@ -235,4 +239,39 @@ QString ZTAPMCommandLine::requestedLanguage(const QStringList& theArguments)
             result = argument.mid(7);
     }
     return result;
+}
+
+std::unique_ptr<QCoreApplication> ZTAPMCommandLine::createApplication(int& theArgc, char** theArgv) const
+{
+    QStringList valueOptions{QStringLiteral("data"), QStringLiteral("lang")};
+    for (const auto& command : myCommands) {
+        for (const QCommandLineOption& option : command->options()) {
+            if (!option.valueName().isEmpty())
+                valueOptions.append(option.names());
+        }
+    }
+    // The first argument that is neither an option nor an option's value names the command.
+    QString name = myCommands.front()->name();
+    for (int i = 1; i < theArgc; ++i) {
+        const QString argument = QString::fromLocal8Bit(theArgv[i]);
+        if (argument == QLatin1String("--")) {
+            if (i + 1 < theArgc)
+                name = QString::fromLocal8Bit(theArgv[i + 1]);
+            break;
+        }
+        if (argument.startsWith(QLatin1Char('-')) && argument.size() > 1) {
+            const QString option = argument.mid(argument.startsWith(QLatin1String("--")) ? 2 : 1);
+            if (valueOptions.contains(option))
+                ++i;
+            continue;
+        }
+        name = argument;
+        break;
+    }
+    const ZTAPMCommand* chosen = command(name);
+    if (!chosen || !chosen->needsGuiApplication())
+        return std::make_unique<QCoreApplication>(theArgc, theArgv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(theArgc, theArgv);
 }

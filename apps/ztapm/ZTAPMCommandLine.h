@@ -8,6 +8,7 @@
 #include <vector>
 
 class QCommandLineParser;
+class QCoreApplication;
 class ZTAPMCommand;
 
 // The ztapm program: reads the options, picks the command, starts the engine on the key account
@@ -23,6 +24,10 @@ public:
 
     // Parses the arguments (program name first) and runs the command; returns the exit status.
     int run(const QStringList& theArguments);
+    // The application the chosen command needs: a QGuiApplication on the offscreen platform (unless
+    // QT_QPA_PLATFORM names one) for a command that draws, else a QCoreApplication. Before any
+    // application exists, so the command is found by a plain look at the arguments.
+    std::unique_ptr<QCoreApplication> createApplication(int& theArgc, char** theArgv) const;
 
 private:
     template <typename COMMAND>

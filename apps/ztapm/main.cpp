@@ -8,9 +8,10 @@
 
 int main(int argc, char* argv[])
 {
-    QCoreApplication app(argc, argv);
+    ZTAPMCommandLine commandLine;
+    const std::unique_ptr<QCoreApplication> app = commandLine.createApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("ztapm"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZTAPM_VERSION));
     qInstallMessageHandler(&ZTAPMCommand::collectMessage);
-    return ZTAPMCommandLine().run(QCoreApplication::arguments());
+    return commandLine.run(QCoreApplication::arguments());
 }

@@ -36,6 +36,8 @@ public:
     bool isPackageModel() const { return myValue == ZTDiscountModelPackage; }
     bool isBulkDiscount() const { return myValue == ZTDiscountModelBulk; }
     bool usesTransferArticle() const;
+    // Whether a row's bounds count pieces: for "z" they are the goods' sum in hundredths.
+    bool boundsCountPieces() const { return myValue != ZTDiscountModelBillingSumTransfer; }
 
     void fillTable(ZTEnumToStringTable<ZTDiscountModelEnum>* theTable) const override;
 };
