@@ -191,7 +191,7 @@ void ZTAPMLadderChart::paint(QPaintDevice* theDevice) const
     if (myLines.isEmpty()) {
         painter.setPen(Qt::black);
         painter.setFont(chartFont(14));
-        painter.drawText(thePlot, Qt::AlignCenter, QStringLiteral("no prices"));
+        painter.drawText(thePlot, Qt::AlignCenter, tr("no prices"));
     }
     paintLegend(painter);
 }
@@ -236,10 +236,9 @@ void ZTAPMLadderChart::paintAxes(QPainter& thePainter) const
     thePainter.drawLine(QLineF(thePlot.bottomLeft(), thePlot.bottomRight()));
     thePainter.drawLine(QLineF(thePlot.bottomLeft(), thePlot.topLeft()));
     thePainter.drawText(QRectF(thePlot.left(), thePlot.bottom() + 28, thePlot.width(), 18), Qt::AlignCenter,
-                        myLogarithmic ? QStringLiteral("quantity (pieces, logarithmic scale)")
-                                      : QStringLiteral("quantity (pieces)"));
+                        myLogarithmic ? tr("quantity (pieces, logarithmic scale)") : tr("quantity (pieces)"));
     thePainter.drawText(QRectF(thePlot.left(), thePlot.top() - 22, thePlot.width(), 16),
-                        Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("unit price"));
+                        Qt::AlignLeft | Qt::AlignVCenter, tr("unit price"));
 }
 
 void ZTAPMLadderChart::paintLegend(QPainter& thePainter) const
@@ -262,7 +261,7 @@ void ZTAPMLadderChart::paintLegend(QPainter& thePainter) const
     }
     if (offers) {
         x += 20;
-        entry(QPen(Qt::gray, 2.5, Qt::SolidLine), QStringLiteral("regular price"));
-        entry(QPen(Qt::gray, 2.5, Qt::DashLine), QStringLiteral("offer price"));
+        entry(QPen(Qt::gray, 2.5, Qt::SolidLine), tr("regular price"));
+        entry(QPen(Qt::gray, 2.5, Qt::DashLine), tr("offer price"));
     }
 }

@@ -5,6 +5,7 @@
 #include "ZTOrderSource.h"
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QList>
 #include <QSize>
 #include <QString>
@@ -38,6 +39,8 @@ class QPointF;
 // Size, fonts and colours are fixed, so that equal ladders give equal output.
 class ZTAPMLadderChart
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMLadderChart)
+
 public:
     struct Line
     {

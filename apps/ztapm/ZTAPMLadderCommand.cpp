@@ -25,19 +25,19 @@ QString ZTAPMLadderCommand::synopsis() const
 
 QString ZTAPMLadderCommand::summary() const
 {
-    return QStringLiteral("a chart of the unit price by quantity, one line per order source\n"
-                          "--svg FILE | --png FILE [--source S]");
+    return tr("a chart of the unit price by quantity, one line per order source\n"
+              "--svg FILE | --png FILE [--source S]");
 }
 
 QList<QCommandLineOption> ZTAPMLadderCommand::options() const
 {
     return {QCommandLineOption(QStringLiteral("source"),
-                               QStringLiteral("price, ladder: the order source (default %1; ladder: all).")
+                               tr("price, ladder: the order source (default %1; ladder: all).")
                                    .arg(orderSourceName(defaultOrderSource())),
                                QStringLiteral("S")),
-            QCommandLineOption(QStringLiteral("svg"), QStringLiteral("ladder: write the chart as SVG."),
+            QCommandLineOption(QStringLiteral("svg"), tr("ladder: write the chart as SVG."),
                                QStringLiteral("FILE")),
-            QCommandLineOption(QStringLiteral("png"), QStringLiteral("ladder: write the chart as PNG."),
+            QCommandLineOption(QStringLiteral("png"), tr("ladder: write the chart as PNG."),
                                QStringLiteral("FILE"))};
 }
 
@@ -48,7 +48,7 @@ bool ZTAPMLadderCommand::needsGuiApplication() const
 
 int ZTAPMLadderCommand::readArguments(const QStringList& theArguments, const QCommandLineParser& theParser)
 {
-    const QString usage = QStringLiteral("usage: ladder ID --svg FILE | --png FILE [--source S]");
+    const QString usage = tr("usage: ladder ID --svg FILE | --png FILE [--source S]");
     if (theArguments.size() != 1)
         return fail(UsageError, usage);
     const bool svg = theParser.isSet(QStringLiteral("svg"));
@@ -65,8 +65,8 @@ int ZTAPMLadderCommand::readArguments(const QStringList& theArguments, const QCo
             QStringList names;
             for (const ZTOrderSource& each : std::as_const(myOrderSources))
                 names.append(orderSourceName(each));
-            return fail(UsageError, QStringLiteral("unknown order source '%1'; use %2")
-                                        .arg(sourceName, joined(names, QStringLiteral("or"))));
+            return fail(UsageError,
+                        tr("unknown order source '%1'; use %2").arg(sourceName, joined(names, tr("or"))));
         }
         myOrderSources = {source};
     }
@@ -84,7 +84,7 @@ int ZTAPMLadderCommand::run(QJsonObject& theReport)
     QList<ZTAPMLadderChart::Line> lines;
     for (const ZTOrderSource& source : std::as_const(myOrderSources))
         lines.append({source, source.toLogString(), priceInfo.ladder(source)});
-    const QString title = QStringLiteral("Article %1 %2").arg(myArticleId).arg(product->name());
+    const QString title = tr("Article %1 %2").arg(myArticleId).arg(product->name());
     // As every command writes amounts; an axis end beyond 32 bits in plain units.
     const ZTAPMLadderChart chart(title, lines, [](qint64 theAmount) {
         return ZTMoney::fits(theAmount) ? amountText(QJsonValue(theAmount))
@@ -98,8 +98,8 @@ int ZTAPMLadderCommand::run(QJsonObject& theReport)
         generator.setOutputDevice(&buffer);
         generator.setSize(ZTAPMLadderChart::size());
         generator.setViewBox(QRect(QPoint(0, 0), ZTAPMLadderChart::size()));
-        generator.setTitle(QStringLiteral("Price ladder of article %1").arg(myArticleId));
-        generator.setDescription(QStringLiteral("Unit price by quantity, one line per order source"));
+        generator.setTitle(tr("Price ladder of article %1").arg(myArticleId));
+        generator.setDescription(tr("Unit price by quantity, one line per order source"));
         chart.paint(&generator);
     } else {
         QImage image(ZTAPMLadderChart::size(), QImage::Format_RGB32);
@@ -109,7 +109,7 @@ int ZTAPMLadderCommand::run(QJsonObject& theReport)
     }
     QSaveFile file(myFile);
     if (!file.open(QIODevice::WriteOnly) || file.write(buffer.data()) != buffer.size() || !file.commit())
-        return fail(UsageError, QStringLiteral("cannot write '%1': %2").arg(myFile, file.errorString()));
+        return fail(UsageError, tr("cannot write '%1': %2").arg(myFile, file.errorString()));
 
     theReport = {{QStringLiteral("article"), myArticleId},
                  {QStringLiteral("file"), myFile},
@@ -127,12 +127,14 @@ void ZTAPMLadderCommand::writeText(const QJsonObject& theReport, QTextStream& th
     QStringList sources;
     for (const QJsonValue& source : theReport[QStringLiteral("sources")].toArray())
         sources.append(source.toString());
-    theOut << QStringLiteral(
-                  "Article %1: %2, quantities up to %3 (%4 scale), prices up to %5, written to %6\n")
+    // The scale's keyword stays in the JSON; the text says it in the reader's language.
+    const bool logarithmic =
+        theReport[QStringLiteral("quantityScale")].toString() == QLatin1String("logarithmic");
+    theOut << tr("Article %1: %2, quantities up to %3 (%4 scale), prices up to %5, written to %6\n")
                   .arg(theReport[QStringLiteral("article")].toInt())
-                  .arg(sources.isEmpty() ? QStringLiteral("no prices") : sources.join(QStringLiteral(", ")))
+                  .arg(sources.isEmpty() ? tr("no prices") : sources.join(QStringLiteral(", ")))
                   .arg(theReport[QStringLiteral("quantityEnd")].toInteger())
-                  .arg(theReport[QStringLiteral("quantityScale")].toString())
+                  .arg(logarithmic ? tr("logarithmic") : tr("linear"))
                   .arg(amountText(theReport[QStringLiteral("priceEnd")]))
                   .arg(theReport[QStringLiteral("file")].toString());
 }

@@ -12,6 +12,8 @@ class ZTOrderSource;
 // one line per order source (or only that of --source), drawn by ZTAPMLadderChart.
 class ZTAPMLadderCommand : public ZTAPMCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMLadderCommand)
+
 public:
     QString name() const override;
     QString synopsis() const override;
