@@ -24,7 +24,7 @@ class ZTShippingGroupId;
 class ZTAPMCommand
 {
 public:
-    enum ExitStatus { Success = 0, UsageError = 2, NotFound = 3 };
+    enum ExitStatus { Success = 0, UsageError = 2, NotFound = 3, InvalidResult = 4 };
 
     ZTAPMCommand();
     virtual ~ZTAPMCommand();
@@ -64,6 +64,10 @@ public:
 
     // Writes "ztapm: MESSAGE" to stderr and returns the status.
     static int fail(ExitStatus theStatus, const QString& theMessage);
+    // An article id as typed; a usage error for anything but a positive number.
+    static int readArticleId(const QString& theText, int* theId);
+    // The product of an id, or null with the not-found message written.
+    static ZTProductAbstract* findProduct(int theId, int* theStatus);
     // "a", "a and b", "a, b and c" (or with theLastJoint "or").
     static QString joined(const QStringList& theItems, const QString& theLastJoint);
 
@@ -72,10 +76,6 @@ protected:
 
     // Success when there are none, else a usage error "NAME takes no arguments".
     int noArguments(const QStringList& theArguments) const;
-    // An article id as typed; a usage error for anything but a positive number.
-    static int readArticleId(const QString& theText, int* theId);
-    // The product of an id, or null with the not-found message written.
-    static ZTProductAbstract* findProduct(int theId, int* theStatus);
 
     static QString keyAccountDirectory();
     // The warnings of the engine so far.
