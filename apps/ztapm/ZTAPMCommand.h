@@ -71,16 +71,6 @@ public:
     // "a", "a and b", "a, b and c" (or with theLastJoint "or").
     static QString joined(const QStringList& theItems, const QString& theLastJoint);
 
-protected:
-    Q_DISABLE_COPY(ZTAPMCommand)
-
-    // Success when there are none, else a usage error "NAME takes no arguments".
-    int noArguments(const QStringList& theArguments) const;
-
-    static QString keyAccountDirectory();
-    // The warnings of the engine so far.
-    static QStringList warnings();
-
     // An amount for JSON: whole hundredths, null where nothing is set.
     static QJsonValue amountJson(const ZTMoney& theAmount);
     // An amount of a report for a person in the key account's currency ("12,34 €"), as units and
@@ -95,6 +85,16 @@ protected:
     static QJsonArray idsJson(const ZTArticleIdSet& theIds);
     // One line of cells, each left-justified to its width (none for a width of 0), one space apart.
     static void writeColumns(QTextStream& theOut, const QStringList& theCells, const QList<int>& theWidths);
+
+protected:
+    Q_DISABLE_COPY(ZTAPMCommand)
+
+    // Success when there are none, else a usage error "NAME takes no arguments".
+    int noArguments(const QStringList& theArguments) const;
+
+    static QString keyAccountDirectory();
+    // The warnings of the engine so far.
+    static QStringList warnings();
 };
 
 #endif // ZTAPMCOMMAND_H

@@ -6,6 +6,7 @@
 #include "ZTAPMOrderingCommand.h"
 #include "ZTAPMPriceCommand.h"
 #include "ZTAPMQuoteCommand.h"
+#include "ZTAPMResultCommand.h"
 #include "ZTAPMStartupCommand.h"
 #include "ZTInitializer.h"
 #include "ZTProgramConfig.h"
@@ -30,6 +31,7 @@ ZTAPMCommandLine::ZTAPMCommandLine()
     add<ZTAPMPriceCommand>();
     add<ZTAPMQuoteCommand>();
     add<ZTAPMOrderingCommand>();
+    add<ZTAPMResultCommand>();
 }
 
 ZTAPMCommandLine::~ZTAPMCommandLine() = default;
@@ -124,7 +126,8 @@ QString ZTAPMCommandLine::commandsHelp() const
     }
     return result +
            QStringLiteral("Order sources (--source): %1.\n"
-                          "Exit status: 0 done, 2 usage error, 3 data directory or article not found.")
+                          "Exit status: 0 done, 2 usage error, 3 data directory, file or article not found,\n"
+                          "4 the file is no valid order calculation.")
                .arg(ZTAPMCommand::orderSourcesHelp());
 }
 
