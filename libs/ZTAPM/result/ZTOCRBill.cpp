@@ -10,6 +10,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 void appendTaxElement(QDomElement& theParent, const QString& theName, const ZTMoney& theTax)
@@ -126,8 +127,13 @@ bool ZTOCRBill::checkOrderedAddOns(const ZTOCRBillPosition& thePosition,
     counts.remove(theProduct);
     for (const ZTOCRBillPositionPart& part : thePosition.orderParts()) {
         ZTProductAbstract* product = part.findProduct();
-        // A part without an add-on of the item starts below 0 and cannot come out at 0.
-        counts.insert(product, counts.value(product, -1) - part.quantity() * thePosition.quantity());
+        // A part without an add-on of the item starts below 0 and cannot come out at 0. The
+        // server's quantities are anybody's numbers: a claim beyond any count matches nothing.
+        const qint64 left =
+            qint64(counts.value(product, -1)) - qint64(part.quantity()) * thePosition.quantity();
+        if (left < std::numeric_limits<int>::min() || left > std::numeric_limits<int>::max())
+            return false;
+        counts.insert(product, int(left));
     }
     return std::all_of(counts.cbegin(), counts.cend(), [](int theCount) { return theCount == 0; });
 }
