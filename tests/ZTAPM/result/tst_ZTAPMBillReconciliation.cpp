@@ -78,12 +78,19 @@ private Q_SLOTS:
             << demo
             << QStringList{QStringLiteral("<orderposition pos=\"4\""), QStringLiteral("<ignored pos=\"4\"")}
             << QStringList{QStringLiteral("%1 16 4001 1495 - b:0 -").arg(position)};
-        // Within a group by editor name: "Abzug 10x15" before "Poster A3" whatever the ids.
-        QTest::newRow("positions by name")
+        // Within a group by editor name, which the demo articles leave empty, then by id: 3001,
+        // only on the server and without a model, before 3002 and 4001 of both sides.
+        QTest::newRow("positions by name, then id")
             << demo
-            << QStringList{QStringLiteral("price=\"15\""), QStringLiteral("price=\"14\""),
-                           QStringLiteral("price=\"1495\""), QStringLiteral("price=\"1494\"")}
-            << QStringList{QStringLiteral("%1 16 3002 1800 1680 b:2 b:2").arg(position),
+            << QStringList{QStringLiteral("<orderposition pos=\"4\""),
+                           QStringLiteral("<orderposition pos=\"6\" article_id=\"3001\" quantity=\"1\" "
+                                          "price=\"19\"/><orderposition pos=\"4\""),
+                           QStringLiteral("price=\"15\""),
+                           QStringLiteral("price=\"14\""),
+                           QStringLiteral("price=\"1495\""),
+                           QStringLiteral("price=\"1494\"")}
+            << QStringList{QStringLiteral("%1 16 3001 - 19 - *:0").arg(position),
+                           QStringLiteral("%1 16 3002 1800 1680 b:2 b:2").arg(position),
                            QStringLiteral("%1 16 4001 1495 1494 b:0 b:0").arg(position)};
         // A group only the server bills: every line of it, then the order's sums.
         QTest::newRow("bill missing locally")
