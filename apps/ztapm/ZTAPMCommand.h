@@ -27,7 +27,7 @@ class ZTAPMCommand
     Q_DECLARE_TR_FUNCTIONS(ZTAPMCommand)
 
 public:
-    enum ExitStatus { Success = 0, UsageError = 2, NotFound = 3 };
+    enum ExitStatus { Success = 0, UsageError = 2, NotFound = 3, InvalidResult = 4 };
 
     ZTAPMCommand();
     virtual ~ZTAPMCommand();
@@ -69,22 +69,12 @@ public:
 
     // Writes "ztapm: MESSAGE" to stderr and returns the status.
     static int fail(ExitStatus theStatus, const QString& theMessage);
-    // "a", "a and b", "a, b and c" (or with theLastJoint "or").
-    static QString joined(const QStringList& theItems, const QString& theLastJoint);
-
-protected:
-    Q_DISABLE_COPY(ZTAPMCommand)
-
-    // Success when there are none, else a usage error "NAME takes no arguments".
-    int noArguments(const QStringList& theArguments) const;
     // An article id as typed; a usage error for anything but a positive number.
     static int readArticleId(const QString& theText, int* theId);
     // The product of an id, or null with the not-found message written.
     static ZTProductAbstract* findProduct(int theId, int* theStatus);
-
-    static QString keyAccountDirectory();
-    // The warnings of the engine so far.
-    static QStringList warnings();
+    // "a", "a and b", "a, b and c" (or with theLastJoint "or").
+    static QString joined(const QStringList& theItems, const QString& theLastJoint);
 
     // An amount for JSON: whole hundredths, null where nothing is set.
     static QJsonValue amountJson(const ZTMoney& theAmount);
@@ -100,6 +90,16 @@ protected:
     static QJsonArray idsJson(const ZTArticleIdSet& theIds);
     // One line of cells, each left-justified to its width (none for a width of 0), one space apart.
     static void writeColumns(QTextStream& theOut, const QStringList& theCells, const QList<int>& theWidths);
+
+protected:
+    Q_DISABLE_COPY(ZTAPMCommand)
+
+    // Success when there are none, else a usage error "NAME takes no arguments".
+    int noArguments(const QStringList& theArguments) const;
+
+    static QString keyAccountDirectory();
+    // The warnings of the engine so far.
+    static QStringList warnings();
 };
 
 #endif // ZTAPMCOMMAND_H

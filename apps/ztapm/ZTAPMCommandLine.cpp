@@ -7,6 +7,7 @@
 #include "ZTAPMOrderingCommand.h"
 #include "ZTAPMPriceCommand.h"
 #include "ZTAPMQuoteCommand.h"
+#include "ZTAPMResultCommand.h"
 #include "ZTAPMStartupCommand.h"
 #include "ZTInitializer.h"
 #include "ZTProgramConfig.h"
@@ -35,6 +36,7 @@ ZTAPMCommandLine::ZTAPMCommandLine()
     add<ZTAPMLadderCommand>();
     add<ZTAPMQuoteCommand>();
     add<ZTAPMOrderingCommand>();
+    add<ZTAPMResultCommand>();
 }
 
 ZTAPMCommandLine::~ZTAPMCommandLine() = default;
@@ -142,7 +144,8 @@ QString ZTAPMCommandLine::commandsHelp() const
                   lines.join(QLatin1Char('\n') + QString(25, QLatin1Char(' '))) + QLatin1Char('\n');
     }
     return result + tr("Order sources (--source): %1.\n"
-                       "Exit status: 0 done, 2 usage error, 3 data directory or article not found.")
+                       "Exit status: 0 done, 2 usage error, 3 data directory, file or article not found,\n"
+                       "4 the file is no valid order calculation.")
                         .arg(ZTAPMCommand::orderSourcesHelp());
 }
 

@@ -4,6 +4,7 @@
 #include "ZTAPMDataBase.h"
 #include "ZTAPMGlobalStatus.h"
 #include "ZTAPMPriceKey.h"
+#include "ZTAPMQuoteArguments.h"
 #include "ZTAPMShippingGroupManager.h"
 #include "ZTCurrencyConfig.h"
 #include "ZTOrderingDetails.h"
@@ -70,10 +71,7 @@ QString ZTAPMOrderingCommand::summary() const
 
 QList<QCommandLineOption> ZTAPMOrderingCommand::options() const
 {
-    return {QCommandLineOption(
-        QStringLiteral("source"),
-        tr("price, ordering: the order source (default %1).").arg(orderSourceName(defaultOrderSource())),
-        QStringLiteral("S"), orderSourceName(defaultOrderSource()))};
+    return {ZTAPMQuoteArguments::sourceOption()};
 }
 
 int ZTAPMOrderingCommand::readArguments(const QStringList& theArguments, const QCommandLineParser& theParser)

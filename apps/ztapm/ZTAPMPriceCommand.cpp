@@ -2,6 +2,7 @@
 
 #include "ZTAPMPriceExplanation.h"
 #include "ZTAPMPriceKey.h"
+#include "ZTAPMQuoteArguments.h"
 #include "ZTProductAbstract.h"
 
 #include <QCommandLineParser>
@@ -25,10 +26,7 @@ QString ZTAPMPriceCommand::summary() const
 
 QList<QCommandLineOption> ZTAPMPriceCommand::options() const
 {
-    return {QCommandLineOption(
-                QStringLiteral("source"),
-                tr("price: the order source (default %1).").arg(orderSourceName(defaultOrderSource())),
-                QStringLiteral("S"), orderSourceName(defaultOrderSource())),
+    return {ZTAPMQuoteArguments::sourceOption(),
             QCommandLineOption(QStringLiteral("sum"),
                                tr("price: the goods' sum in hundredths, for \"z\" rows."),
                                QStringLiteral("CENTS"), QStringLiteral("0")),

@@ -3,8 +3,8 @@
 #include "ZTAPMBill.h"
 #include "ZTAPMBillPosition.h"
 #include "ZTAPMBillPositionInvalid.h"
+#include "ZTAPMOrderQuote.h"
 #include "ZTAPMShippingGroupManager.h"
-#include "ZTOrderingDetails.h"
 #include "ZTProductAbstract.h"
 
 #include <QCommandLineParser>
@@ -53,136 +53,59 @@ QString ZTAPMQuoteCommand::summary() const
 
 QList<QCommandLineOption> ZTAPMQuoteCommand::options() const
 {
-    return {QCommandLineOption(
-                QStringLiteral("source"),
-                tr("price, quote: the order source (default %1).").arg(orderSourceName(defaultOrderSource())),
-                QStringLiteral("S"), orderSourceName(defaultOrderSource())),
-            QCommandLineOption(QStringLiteral("payment"),
-                               tr("quote: the payment method, ID or ID_BRAND (default the order source's "
-                                  "starting payment)."),
-                               QStringLiteral("ID")),
-            QCommandLineOption(QStringLiteral("shipment"), tr("quote: the shipment method id."),
-                               QStringLiteral("ID")),
-            QCommandLineOption(QStringLiteral("express"),
-                               tr("quote: the express wish, standard or express (default none)."),
-                               QStringLiteral("E"))};
+    return QList<QCommandLineOption>{ZTAPMQuoteArguments::sourceOption()} +
+           ZTAPMQuoteArguments::options(QStringLiteral("quote, result"));
 }
 
 int ZTAPMQuoteCommand::readArguments(const QStringList& theArguments, const QCommandLineParser& theParser)
 {
     if (theArguments.isEmpty())
-        return fail(UsageError, tr("usage: quote ID:COUNT [ID:COUNT ...] [--source S] [--payment ID[_BRAND]] "
-                                   "[--shipment ID] [--express standard|express]"));
-    for (const QString& argument : theArguments) {
-        const QStringList parts = argument.split(QLatin1Char(':'));
-        bool countOk = false;
-        const int count = parts.size() == 2 ? parts.at(1).toInt(&countOk) : 0;
-        if (!countOk || count < 0)
-            return fail(UsageError, tr("'%1' is no item ID:COUNT").arg(argument));
-        int id = 0;
-        if (const int status = readArticleId(parts.at(0), &id))
-            return status;
-        myItems.append({id, count});
-    }
-
-    const QString sourceName = theParser.value(QStringLiteral("source"));
-    myOrderSource = orderSourceNamed(sourceName);
-    if (!myOrderSource.isValid())
-        return fail(UsageError, tr("unknown order source '%1'; see --help").arg(sourceName));
-    myPayment = theParser.value(QStringLiteral("payment"));
-    if (theParser.isSet(QStringLiteral("shipment"))) {
-        bool ok = false;
-        myShipment = theParser.value(QStringLiteral("shipment")).toInt(&ok);
-        if (!ok || myShipment < 0)
-            return fail(UsageError,
-                        tr("'%1' is no shipment method id").arg(theParser.value(QStringLiteral("shipment"))));
-    }
-    const QString express = theParser.value(QStringLiteral("express"));
-    if (express == QLatin1String("standard"))
-        myExpressType = ZTExpressType(ZTExpressTypeStandard);
-    else if (express == QLatin1String("express"))
-        myExpressType = ZTExpressType(ZTExpressTypeExpress);
-    else if (theParser.isSet(QStringLiteral("express")))
-        return fail(UsageError, tr("--express takes standard or express, not '%1'").arg(express));
-    return Success;
+        return fail(UsageError, theUsage);
+    if (const int status = myArguments.readItems(theArguments))
+        return status;
+    return myArguments.readOptions(theParser);
 }
 
 int ZTAPMQuoteCommand::run(QJsonObject& theReport)
 {
     ZTAPMOrderStatistic basket;
-    for (const QPair<int, int>& item : std::as_const(myItems)) {
-        int status = Success;
-        ZTProductAbstract* product = findProduct(item.first, &status);
-        if (!product)
-            return status;
-        basket.add(product, item.second);
-    }
-
-    const ZTOrderingDetails* details = ZTSingleton<ZTOrderingDetails>::instance();
+    if (const int status = myArguments.basket(&basket))
+        return status;
     ZTAPMStatus status;
-    status.setOrderSource(myOrderSource);
-    if (!myPayment.isEmpty()) {
-        bool ok = false;
-        const int id = myPayment.section(QLatin1Char('_'), 0, 0).toInt(&ok);
-        const ZTPaymentMethod method =
-            details->paymentMethod(myOrderSource, ZTPaymentId(id), myPayment.section(QLatin1Char('_'), 1));
-        if (!ok || !method.isValid())
-            return fail(NotFound,
-                        tr("no payment method '%1' for %2").arg(myPayment, orderSourceName(myOrderSource)));
-        status.setPaymentMethod(method);
-    }
-    // As the client starts an order: the key account's starting shipment unless one is named.
-    status.setReasonableStartingShipmentMethod();
-    if (myShipment >= 0) {
-        const ZTShipmentMethod method = details->shipmentMethods().value(myShipment);
-        if (!method.isValid())
-            return fail(NotFound, tr("no shipment method %1").arg(myShipment));
-        status.setShipmentMethod(method);
-    }
+    if (const int failure = myArguments.status(&status))
+        return failure;
 
     const ZTAPMShippingGroupManager* groups = ZTSingleton<ZTAPMShippingGroupManager>::instance();
     const ZTArticleClass goods(ZTArticleClassEnum(ZTArticleClassAll & ~ZTArticleClassAllFees));
-    ZTMoney total(0);
+    const ZTAPMOrderQuote quote(status, myArguments.expressType(), basket);
     QJsonArray bills;
-    const auto statistics = ZTAPMBill::shippingGroupStatistics(basket);
-    for (auto group = statistics.cbegin(); group != statistics.cend(); ++group) {
-        const ZTAPMBill bill(group.key(), status, myExpressType, group.value());
+    for (const ZTAPMBill* bill : quote.bills()) {
         QJsonArray positions;
-        for (const ZTAPMBillPositionAbstract* position : bill.sortedBillPositions(goods))
+        for (const ZTAPMBillPositionAbstract* position : bill->sortedBillPositions(goods))
             positions.append(positionJson(position, modelName(position->discountModel())));
         QJsonValue transfer;
-        if (const ZTAPMBillPosition* position = bill.billPosition(bill.transferProduct()))
+        if (const ZTAPMBillPosition* position = bill->billPosition(bill->transferProduct()))
             transfer = QJsonObject{{QStringLiteral("article"), position->product()->articleId().id()},
                                    {QStringLiteral("price"), position->positionPrice().value()},
-                                   {QStringLiteral("unitTransfer"), bill.priceOfUnitTransfer().value()},
-                                   {QStringLiteral("baseTransfer"), bill.priceOfBaseTransfer().value()}};
-        bills.append(QJsonObject{{QStringLiteral("group"), groupJson(group.key())},
-                                 {QStringLiteral("name"), groups->shippingGroupName(group.key())},
-                                 {QStringLiteral("valid"), bill.isValid()},
+                                   {QStringLiteral("unitTransfer"), bill->priceOfUnitTransfer().value()},
+                                   {QStringLiteral("baseTransfer"), bill->priceOfBaseTransfer().value()}};
+        bills.append(QJsonObject{{QStringLiteral("group"), groupJson(bill->shippingGroup())},
+                                 {QStringLiteral("name"), groups->shippingGroupName(bill->shippingGroup())},
+                                 {QStringLiteral("valid"), bill->isValid()},
                                  {QStringLiteral("positions"), positions},
                                  {QStringLiteral("transfer"), transfer},
-                                 {QStringLiteral("paymentFee"), bill.priceOfPaymentFee().value()},
-                                 {QStringLiteral("expressFee"), bill.priceOfExpressFee().value()},
-                                 {QStringLiteral("total"), bill.totalFinalCost().value()}});
-        total += bill.totalFinalCost();
+                                 {QStringLiteral("paymentFee"), bill->priceOfPaymentFee().value()},
+                                 {QStringLiteral("expressFee"), bill->priceOfExpressFee().value()},
+                                 {QStringLiteral("total"), bill->totalFinalCost().value()}});
     }
-    const ZTMoney shipmentFee = ZTAPMBill::priceOfShipmentFee(status.shipmentMethod(), status.priceKey());
-    total += shipmentFee;
 
-    const ZTPaymentMethod payment = status.paymentMethod();
-    QString paymentName = payment.isValid() ? QString::number(payment.paymentId().id()) : QString();
-    if (payment.isValid() && !payment.brand().isEmpty())
-        paymentName += QLatin1Char('_') + payment.brand();
-    theReport = {{QStringLiteral("source"), myOrderSource.toLogString()},
-                 {QStringLiteral("payment"), paymentName},
+    theReport = {{QStringLiteral("source"), myArguments.orderSource().toLogString()},
+                 {QStringLiteral("payment"), ZTAPMQuoteArguments::paymentName(status)},
                  {QStringLiteral("shipment"), status.shipmentMethod().id()},
-                 {QStringLiteral("express"),
-                  myExpressType.hasValue(ZTExpressTypeExpress)    ? QStringLiteral("express")
-                  : myExpressType.hasValue(ZTExpressTypeStandard) ? QStringLiteral("standard")
-                                                                  : QStringLiteral("none")},
+                 {QStringLiteral("express"), myArguments.expressName()},
                  {QStringLiteral("bills"), bills},
-                 {QStringLiteral("shipmentFee"), shipmentFee.value()},
-                 {QStringLiteral("total"), total.value()}};
+                 {QStringLiteral("shipmentFee"), quote.shipmentFee().value()},
+                 {QStringLiteral("total"), quote.totalFinalCost().value()}};
     return Success;
 }
 

@@ -2,10 +2,7 @@
 #define ZTAPMQUOTECOMMAND_H
 
 #include "ZTAPMCommand.h"
-#include "ZTExpressType.h"
-#include "ZTOrderSource.h"
-
-#include <QPair>
+#include "ZTAPMQuoteArguments.h"
 
 // "quote ID:COUNT ...": the basket split by shipping group as a host does it, one bill per
 // group with its positions, transfer and fees, then the shipment fee and the grand total.
@@ -23,11 +20,7 @@ public:
     void writeText(const QJsonObject& theReport, QTextStream& theOut) const override;
 
 private:
-    QList<QPair<int, int>> myItems;
-    ZTOrderSource myOrderSource;
-    QString myPayment;
-    int myShipment = -1;
-    ZTExpressType myExpressType;
+    ZTAPMQuoteArguments myArguments;
 };
 
 #endif // ZTAPMQUOTECOMMAND_H
