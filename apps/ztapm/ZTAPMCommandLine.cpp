@@ -2,6 +2,7 @@
 
 #include "ZTAPMArticleCommand.h"
 #include "ZTAPMCatalogueCommand.h"
+#include "ZTAPMCheckCommand.h"
 #include "ZTAPMCommand.h"
 #include "ZTAPMOrderingCommand.h"
 #include "ZTAPMPriceCommand.h"
@@ -30,6 +31,7 @@ ZTAPMCommandLine::ZTAPMCommandLine()
     add<ZTAPMPriceCommand>();
     add<ZTAPMQuoteCommand>();
     add<ZTAPMOrderingCommand>();
+    add<ZTAPMCheckCommand>();
 }
 
 ZTAPMCommandLine::~ZTAPMCommandLine() = default;
@@ -100,7 +102,7 @@ int ZTAPMCommandLine::run(const QStringList& theArguments)
         out << QJsonDocument(report).toJson(QJsonDocument::Indented);
     else
         chosen->writeText(report, out);
-    return ZTAPMCommand::Success;
+    return chosen->exitStatus(report);
 }
 
 ZTAPMCommand* ZTAPMCommandLine::command(const QString& theName) const
@@ -122,10 +124,10 @@ QString ZTAPMCommandLine::commandsHelp() const
         result += QStringLiteral("  ") + command->synopsis().leftJustified(22) + QLatin1Char(' ') +
                   lines.join(QLatin1Char('\n') + QString(25, QLatin1Char(' '))) + QLatin1Char('\n');
     }
-    return result +
-           QStringLiteral("Order sources (--source): %1.\n"
-                          "Exit status: 0 done, 2 usage error, 3 data directory or article not found.")
-               .arg(ZTAPMCommand::orderSourcesHelp());
+    return result + QStringLiteral("Order sources (--source): %1.\n"
+                                   "Exit status: 0 done, 2 usage error, 3 data directory or article not "
+                                   "found, 5 check found errors.")
+                        .arg(ZTAPMCommand::orderSourcesHelp());
 }
 
 QStringList ZTAPMCommandLine::negativeNumbersAsArguments(const QStringList& theArguments,

@@ -219,10 +219,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("file");
         QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
 
+        // A folder may hold its own key account beside the golden files.
         const QList<QPair<QString, QString>> cases{
             {QStringLiteral("ztapm-demo"), QStringLiteral(ZT_DEMO_DATA_DIR)},
-            {QStringLiteral("ztapm-models"), QStringLiteral(ZT_TEST_DATA_DIR "/models")}};
+            {QStringLiteral("ztapm-models"), QStringLiteral(ZT_TEST_DATA_DIR "/models")},
+            {QStringLiteral("check-broken"), QStringLiteral(ZT_TEST_DATA_DIR "/check-broken")}};
         for (const auto& [folder, keyAccount] : cases) {
             QFile list(QStringLiteral(ZT_TEST_DATA_DIR "/") + folder + QStringLiteral("/commands.txt"));
             QVERIFY2(list.open(QIODevice::ReadOnly | QIODevice::Text), qPrintable(list.fileName()));
@@ -232,8 +235,12 @@ private Q_SLOTS:
                     continue;
                 QStringList arguments = line.split(QLatin1Char(' '));
                 const QString file = arguments.takeFirst();
+                // "exit:5" after the file: the status the command line ends with, 0 if not given.
+                int exitCode = 0;
+                if (arguments.value(0).startsWith(QLatin1String("exit:")))
+                    exitCode = arguments.takeFirst().mid(5).toInt();
                 QTest::newRow(qPrintable(folder + QLatin1Char('/') + file))
-                    << QDir(keyAccount).absolutePath() << folder << file << arguments;
+                    << QDir(keyAccount).absolutePath() << folder << file << arguments << exitCode;
             }
         }
     }
@@ -243,10 +250,11 @@ private Q_SLOTS:
         QFETCH(QString, folder);
         QFETCH(QString, file);
         QFETCH(QStringList, arguments);
+        QFETCH(int, exitCode);
         arguments << QStringLiteral("--data") << keyAccount;
 
         const Run run = ztapm(arguments);
-        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.exitCode, exitCode);
         // Nothing may depend on the run: hash order is seeded per process.
         const Run again = ztapm(arguments);
         QVERIFY2(again.out == run.out && again.err == run.err, "a second run printed something else");
