@@ -241,7 +241,8 @@ private:
     qint64 myColumn = 0;
 };
 
-ZTXMLDocumentGuard::ZTXMLDocumentGuard(QIODevice* theSource) : myDevice(new Device(theSource))
+ZTXMLDocumentGuard::ZTXMLDocumentGuard(QIODevice* theSource, int theOuterDepth)
+    : myDevice(new Device(theSource)), myDepth(theOuterDepth)
 {}
 
 ZTXMLDocumentGuard::~ZTXMLDocumentGuard() = default;

@@ -26,8 +26,9 @@ public:
     static constexpr int maxDepth = 64;
     static constexpr int maxAttributes = 256;
 
-    // theSource must be open for reading.
-    explicit ZTXMLDocumentGuard(QIODevice* theSource);
+    // theSource must be open for reading. theOuterDepth: how deep in its document the text
+    // stands, for a piece of a document read on its own (an element read again from its file).
+    explicit ZTXMLDocumentGuard(QIODevice* theSource, int theOuterDepth = 0);
     ZTXMLDocumentGuard(const ZTXMLDocumentGuard&) = delete;
     ZTXMLDocumentGuard& operator=(const ZTXMLDocumentGuard&) = delete;
     ~ZTXMLDocumentGuard();

@@ -3,6 +3,7 @@
 #include "ZTDiagnosticCollector.h"
 #include "ZTXMLDocumentGuard.h"
 
+#include <QBuffer>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -62,6 +63,100 @@ struct TokenStart
         line = int(theReader.lineNumber());
         column = int(theReader.columnNumber());
     }
+};
+
+// Builds one element, with its tag name, attributes, child elements, text and CDATA, from the
+// tokens of a reader, as a DOM parse would: indentation makes no node, every piece of text one
+// node; comments and processing instructions are left out.
+class ElementBuilder
+{
+public:
+    bool isBuilding() const { return !myDocument.isNull(); }
+
+    // Takes a token; true when it closed the element, which element() then gives.
+    bool take(const QXmlStreamReader& theReader)
+    {
+        switch (theReader.tokenType()) {
+        case QXmlStreamReader::StartElement: {
+            if (!isBuilding()) {
+                // A fresh document has no body until it creates its first node, so the element
+                // goes in through the document itself rather than through a copy of it.
+                myDocument = QDomDocument();
+                myCurrent = QDomNode();
+            }
+            QDomElement element = myDocument.createElement(theReader.qualifiedName().toString());
+            const QXmlStreamAttributes attributes = theReader.attributes();
+            for (const QXmlStreamAttribute& attribute : attributes)
+                element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
+            myCurrent = myCurrent.isNull() ? myDocument.appendChild(element) : myCurrent.appendChild(element);
+            break;
+        }
+        case QXmlStreamReader::EndElement:
+            myCurrent = myCurrent.parentNode();
+            return myCurrent.isNull() || myCurrent.isDocument();
+        case QXmlStreamReader::Characters:
+            if (theReader.isCDATA())
+                myCurrent.appendChild(myDocument.createCDATASection(theReader.text().toString()));
+            else if (!theReader.isWhitespace())
+                myCurrent.appendChild(myDocument.createTextNode(theReader.text().toString()));
+            break;
+        default:
+            break;
+        }
+        return false;
+    }
+
+    // The element built, once; the builder is then free for the next.
+    QDomElement element()
+    {
+        const QDomElement result = myDocument.documentElement();
+        myDocument = QDomDocument();
+        myCurrent = QDomNode();
+        return result;
+    }
+
+private:
+    QDomDocument myDocument; // of the element being built, null between elements
+    QDomNode myCurrent;      // innermost open node of that element
+};
+
+// Maps the reader's character offsets, in UTF-16 units, to byte offsets in UTF-8 text; offsets
+// are asked in increasing order, so the whole text is walked once.
+class ByteOffsets
+{
+public:
+    explicit ByteOffsets(const QByteArray& theText) : myText(theText) {}
+
+    // -1 where the text is not UTF-8 as the reader decodes it.
+    qint64 byteOf(qint64 theCharacter)
+    {
+        const qint64 size = myText.size();
+        const char* text = myText.constData();
+        while (myCharacter < theCharacter && myByte < size) {
+            const uchar lead = uchar(text[myByte]);
+            if (lead < 0x80) {
+                ++myByte;
+                ++myCharacter;
+            } else if (lead >= 0xc2 && lead < 0xe0) {
+                myByte += 2;
+                ++myCharacter;
+            } else if (lead >= 0xe0 && lead < 0xf0) {
+                myByte += 3;
+                ++myCharacter;
+            } else if (lead >= 0xf0 && lead < 0xf5) {
+                myByte += 4;
+                myCharacter += 2; // a surrogate pair
+            } else {
+                return -1;
+            }
+        }
+        return myCharacter == theCharacter && myByte <= size ? myByte : -1;
+    }
+
+private:
+    const QByteArray& myText;
+    qint64 myByte = 0;
+    qint64 myCharacter = 0;
 };
 
 } // namespace
@@ -138,8 +233,7 @@ bool ZTXMLLoader::forEachSectionElement(
     std::vector<bool> seenSections(size_t(theSectionNames.size()), false);
     qsizetype section = -1; // the wanted section being read, or -1
     int depth = 0;          // of the element last opened; the root is 1
-    QDomDocument document;  // of the element being built, null between elements
-    QDomNode current;       // innermost open node of that element
+    ElementBuilder builder;
     // While findings are collected: the file for the whole reading, each element's start tag while
     // its callback runs.
     const bool collecting = ZTDiagnosticCollector::isCollecting();
@@ -155,8 +249,8 @@ bool ZTXMLLoader::forEachSectionElement(
         reader.readNext();
         if (!guard.check(reader))
             break;
-        switch (reader.tokenType()) {
-        case QXmlStreamReader::StartElement: {
+        const QXmlStreamReader::TokenType token = reader.tokenType();
+        if (token == QXmlStreamReader::StartElement) {
             ++depth;
             if (depth == 2) {
                 const qsizetype index = theSectionNames.indexOf(reader.qualifiedName());
@@ -167,56 +261,26 @@ bool ZTXMLLoader::forEachSectionElement(
                     seenSections[size_t(index)] = true;
                     section = index;
                 }
-                break;
+                continue;
             }
-            if (depth < 3 || section < 0)
-                break;
-            // A fresh document has no body until it creates its first node, so the element
-            // goes in through the document itself rather than through a copy of it.
-            if (depth == 3) {
-                document = QDomDocument();
-                current = QDomNode();
+            if (depth == 3 && section >= 0)
                 elementStart = start;
-            }
-            QDomElement element = document.createElement(reader.qualifiedName().toString());
-            const QXmlStreamAttributes attributes = reader.attributes();
-            for (const QXmlStreamAttribute& attribute : attributes)
-                element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
-            current = current.isNull() ? document.appendChild(element) : current.appendChild(element);
-            break;
         }
-        case QXmlStreamReader::EndElement:
+        if (depth >= 3 && section >= 0 && builder.take(reader)) {
+            const QDomElement element = builder.element();
+            std::optional<ZTDiagnosticCollector::Location> location;
+            if (collecting) {
+                location.emplace(file.fileName(), elementStart.line, elementStart.column);
+                if (element.hasAttribute(QStringLiteral("id")))
+                    ZTDiagnosticCollector::noteElementHere(element.tagName(),
+                                                           element.attribute(QStringLiteral("id")));
+            }
+            theCallback(section, element);
+        }
+        if (token == QXmlStreamReader::EndElement) {
             if (depth == 2)
                 section = -1;
-            if (depth >= 3 && section >= 0) {
-                current = current.parentNode();
-                if (depth == 3) {
-                    std::optional<ZTDiagnosticCollector::Location> location;
-                    if (collecting) {
-                        location.emplace(file.fileName(), elementStart.line, elementStart.column);
-                        const QDomElement element = document.documentElement();
-                        if (element.hasAttribute(QStringLiteral("id")))
-                            ZTDiagnosticCollector::noteElementHere(element.tagName(),
-                                                                   element.attribute(QStringLiteral("id")));
-                    }
-                    theCallback(section, document.documentElement());
-                    document = QDomDocument();
-                    current = QDomNode();
-                }
-            }
             --depth;
-            break;
-        case QXmlStreamReader::Characters:
-            if (depth < 3 || section < 0)
-                break;
-            // Like a DOM parse: indentation makes no node, every piece of text one node.
-            if (reader.isCDATA())
-                current.appendChild(document.createCDATASection(reader.text().toString()));
-            else if (!reader.isWhitespace())
-                current.appendChild(document.createTextNode(reader.text().toString()));
-            break;
-        default:
-            break;
         }
     }
     if (theFoundSections)
@@ -227,4 +291,121 @@ bool ZTXMLLoader::forEachSectionElement(
         return false;
     }
     return true;
+}
+
+ZTXMLLoader::Indexing ZTXMLLoader::indexSectionElements(
+    const QFileInfo& theFile, const QStringList& theSectionNames, const QStringList& theNodeNames,
+    const QString& theKeyAttribute,
+    const std::function<void(qsizetype theSection, const QString& theKey, qint64 theBegin, qint64 theEnd)>&
+        theCallback)
+{
+    QFile file;
+    if (!openFile(theFile, file))
+        return Indexing::Broken;
+    // The text is held for the pass only, to find the elements' bytes.
+    const QByteArray text = file.readAll();
+    QBuffer buffer;
+    buffer.setData(text);
+    buffer.open(QIODevice::ReadOnly);
+    ZTXMLDocumentGuard guard(&buffer);
+    QXmlStreamReader reader(guard.device());
+    reader.setNamespaceProcessing(false);
+    ByteOffsets offsets(text);
+    std::vector<bool> seenSections(size_t(theSectionNames.size()), false);
+    qsizetype section = -1; // the wanted section being read, or -1
+    int depth = 0;          // of the element last opened; the root is 1
+    qint64 begin = -1;      // of the wanted element being read, or -1
+    QString key;
+    // Offsets are found in UTF-8 text only, and an element read on its own must not need a type
+    // declaration, which may define entities. The document is read to its end all the same, so
+    // that it is refused exactly when the other readers refuse it.
+    bool suitable = !text.startsWith("\xef\xbb\xbf") && !text.contains('\0');
+
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (!guard.check(reader))
+            break;
+        switch (reader.tokenType()) {
+        case QXmlStreamReader::StartDocument: {
+            const QStringView encoding = reader.documentEncoding();
+            suitable = suitable && (encoding.isEmpty() ||
+                                    encoding.compare(QLatin1String("UTF-8"), Qt::CaseInsensitive) == 0);
+            break;
+        }
+        case QXmlStreamReader::DTD:
+            suitable = false;
+            break;
+        case QXmlStreamReader::StartElement:
+            ++depth;
+            if (depth == 2) {
+                // Other sections are read through as well, so that all of the document is checked.
+                const qsizetype index = theSectionNames.indexOf(reader.qualifiedName());
+                if (index >= 0 && !seenSections[size_t(index)]) {
+                    seenSections[size_t(index)] = true;
+                    section = index;
+                }
+            } else if (depth == 3 && section >= 0 && suitable &&
+                       reader.qualifiedName() == theNodeNames.at(section)) {
+                // The reader stands behind the start tag, which begins at the last "<": no
+                // attribute value holds one.
+                const qint64 tagEnd = offsets.byteOf(reader.characterOffset());
+                begin = tagEnd > 0 ? text.lastIndexOf('<', tagEnd - 1) : -1;
+                const QString& name = theNodeNames.at(section);
+                suitable = begin >= 0 && begin + 1 + name.size() <= text.size() &&
+                           QLatin1String(text.constData() + begin + 1, name.size()) == name;
+                key = reader.attributes().value(theKeyAttribute).toString();
+            }
+            break;
+        case QXmlStreamReader::EndElement:
+            if (depth == 2) {
+                section = -1;
+            } else if (depth == 3 && begin >= 0) {
+                const qint64 end = suitable ? offsets.byteOf(reader.characterOffset()) : -1;
+                suitable = end > begin && text.at(end - 1) == '>';
+                if (suitable)
+                    theCallback(section, key, begin, end);
+                begin = -1;
+            }
+            --depth;
+            break;
+        default:
+            break;
+        }
+    }
+    if (guard.failed(reader)) {
+        warnParseError(file.fileName(), guard.errorLine(reader), guard.errorColumn(reader),
+                       guard.errorString(reader));
+        return Indexing::Broken;
+    }
+    return suitable ? Indexing::Indexed : Indexing::Unsuitable;
+}
+
+QDomElement ZTXMLLoader::loadElement(QFile& theFile, qint64 theBegin, qint64 theEnd, int theDepth)
+{
+    QByteArray text;
+    if (theFile.seek(theBegin))
+        text = theFile.read(theEnd - theBegin);
+    QBuffer buffer(&text);
+    buffer.open(QIODevice::ReadOnly);
+    ZTXMLDocumentGuard guard(&buffer, theDepth - 1);
+    QXmlStreamReader reader(guard.device());
+    reader.setNamespaceProcessing(false);
+    ElementBuilder builder;
+    QDomElement element;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (!guard.check(reader))
+            break;
+        if (reader.tokenType() == QXmlStreamReader::DTD)
+            reader.raiseError(QStringLiteral("document type declaration in an element"));
+        else if (element.isNull() && (reader.isStartElement() || builder.isBuilding()) &&
+                 builder.take(reader))
+            element = builder.element();
+    }
+    if (text.size() != theEnd - theBegin || guard.failed(reader) || element.isNull()) {
+        warnParseError(theFile.fileName(), guard.errorLine(reader), guard.errorColumn(reader),
+                       text.size() != theEnd - theBegin ? theFile.errorString() : guard.errorString(reader));
+        return QDomElement();
+    }
+    return element;
 }

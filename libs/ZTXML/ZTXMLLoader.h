@@ -9,6 +9,7 @@
 
 #include <functional>
 
+class QFile;
 class QFileInfo;
 
 // Reads a whole XML file into a DOM. A file that is missing, unreadable or not well-formed, or
@@ -40,6 +41,31 @@ public:
         const QFileInfo& theFile, const QStringList& theSectionNames,
         const std::function<void(qsizetype theSection, const QDomElement& theElement)>& theCallback,
         QList<bool>* theFoundSections = nullptr);
+
+    enum class Indexing {
+        Indexed,    // every element was given
+        Broken,     // missing, unreadable or refused, as by loadDocument(), with its one warning
+        Unsuitable, // accepted, but the offsets cannot be found: to be read by other means
+    };
+    // One quick pass that tells where the elements of forEachSectionElement() stand in the file
+    // instead of building them: for each element of a wanted section that is named like the
+    // section's node name (theNodeNames[section]), the value of theKeyAttribute and the element's
+    // bytes [theBegin, theEnd). The document is checked as by the other readers, with the same
+    // warning, and is held for the pass only. Offsets are known for UTF-8 documents without a byte
+    // order mark and without a document type declaration (which could define entities that an
+    // element read on its own would lack); any other that the readers accept is Unsuitable.
+    // Callers keep what they are given only on Indexed.
+    static Indexing
+    indexSectionElements(const QFileInfo& theFile, const QStringList& theSectionNames,
+                         const QStringList& theNodeNames, const QString& theKeyAttribute,
+                         const std::function<void(qsizetype theSection, const QString& theKey,
+                                                  qint64 theBegin, qint64 theEnd)>& theCallback);
+
+    // One element read again from the bytes [theBegin, theEnd) of an open file, as an index
+    // found it, standing at theDepth in its document (the root is 1): built as
+    // forEachSectionElement() builds it and under the same limits. Null, with a warning that names
+    // the file, if the bytes are not such an element.
+    static QDomElement loadElement(QFile& theFile, qint64 theBegin, qint64 theEnd, int theDepth);
 };
 
 #endif // ZTXMLLOADER_H

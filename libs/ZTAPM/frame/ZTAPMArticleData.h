@@ -1,6 +1,7 @@
 #ifndef ZTAPMARTICLEDATA_H
 #define ZTAPMARTICLEDATA_H
 
+#include "ZTAPMElementIndex.h"
 #include "ZTArticleId.h"
 #include "ZTDiagnosticCollector.h"
 #include "ZTKeyAccountDataType.h"
@@ -64,6 +65,10 @@ public:
     virtual ZTKeyAccountDataType dataType() const = 0;
     // Makes a value of one element and stores it through insert(); the result is not looked at.
     virtual bool parseElement(const QDomElement& theElement) const = 0;
+    // Whether a value is made of the elements of its own id alone, so that the store may find
+    // where each id's elements stand in one quick pass and read them at the id's first question:
+    // the answers are those of a reading of every element.
+    virtual bool readsElementsOnDemand() const { return false; }
 
     // Reads the document again. A missing or broken file leaves everything as it was. A reading
     // counts whatever it brought, so that a document without rows, or a broken one, is read and
@@ -73,6 +78,23 @@ public:
         const QFileInfo file = ZTResourceFile(dataType()).fileInfo(false, QString());
         if (!file.exists())
             return;
+        // Findings name the place of every element, so a reading that collects them reads whole.
+        if (readsElementsOnDemand() && !ZTDiagnosticCollector::isCollecting()) {
+            QWriteLocker writer(&myLock);
+            ZTAPMElementIndex index;
+            const ZTXMLLoader::Indexing indexing = index.build(file, sectionNames(), nodeNames());
+            if (indexing != ZTXMLLoader::Indexing::Unsuitable) {
+                myLoaded = true;
+                if (indexing == ZTXMLLoader::Indexing::Indexed) {
+                    myIndex = std::move(index);
+                    myData.clear();
+                    myData.reserve(reservedEntries);
+                }
+                return;
+            }
+            // Read whole, as a store without an index reads.
+            myIndex = ZTAPMElementIndex();
+        }
         Filling filling(*this);
         filling.finish(ZTXMLLoader::forEachSectionElement(
             file, sectionNames(), [&](qsizetype theSection, const QDomElement& theElement) {
@@ -195,13 +217,22 @@ public:
     {
         {
             QReadLocker reader(&myLock);
-            if (myLoaded)
-                return valueOf(theId);
+            if (myLoaded) {
+                const auto found = myData.constFind(theId);
+                if (found != myData.cend())
+                    return *found;
+                if (!myIndex.contains(theId))
+                    return T();
+            }
         }
         QWriteLocker writer(&myLock);
-        // Another thread may have loaded between the two locks.
+        // Another thread may have loaded, or read the id, between the two locks.
         if (!myLoaded)
             load();
+        if (myIndex.contains(theId)) {
+            for (const QDomElement& element : myIndex.take(theId))
+                parseElement(element);
+        }
         return valueOf(theId);
     }
 
@@ -237,6 +268,8 @@ private:
     }
 
     mutable QHash<ZTArticleId, T> myData;
+    // Where the elements of the ids not asked yet stand, when the store reads on demand.
+    mutable ZTAPMElementIndex myIndex;
     mutable QReadWriteLock myLock{QReadWriteLock::Recursive};
     // A file was read, well or not: an empty hash is then the document's answer.
     mutable bool myLoaded = false;

@@ -15,6 +15,13 @@ ZTKeyAccountDataType ZTAPMArticleDeliveryTimes::dataType() const
     return ZTKeyAccountDataType(ZTKeyAccountDataTypeDeliveryTimes);
 }
 
+// A value is made of the elements of its own id: most articles are never asked about in a
+// session, and a big document is read in a fraction of the time of a whole reading.
+bool ZTAPMArticleDeliveryTimes::readsElementsOnDemand() const
+{
+    return true;
+}
+
 bool ZTAPMArticleDeliveryTimes::parseElement(const QDomElement& theElement) const
 {
     const ZTArticleId id = ZTArticleId::fromIdAttribute(theElement);

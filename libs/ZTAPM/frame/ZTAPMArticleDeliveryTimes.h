@@ -17,6 +17,7 @@ public:
     QList<QString> articleNodes() const override;
     ZTKeyAccountDataType dataType() const override;
     bool parseElement(const QDomElement& theElement) const override;
+    bool readsElementsOnDemand() const override;
 
     ZTAPMDeliveryTimes deliveryTimes(const ZTArticleId& theId) const;
 };

@@ -10,6 +10,13 @@ ZTKeyAccountDataType ZTAPMArticlePrices::dataType() const
     return ZTKeyAccountDataType(ZTKeyAccountDataTypePrices);
 }
 
+// A value is made of the elements of its own id: most articles are never asked about in a
+// session, and a big document is read in a fraction of the time of a whole reading.
+bool ZTAPMArticlePrices::readsElementsOnDemand() const
+{
+    return true;
+}
+
 bool ZTAPMArticlePrices::parseElement(const QDomElement& theElement) const
 {
     const ZTArticleId id = ZTArticleId::fromIdAttribute(theElement);

@@ -15,6 +15,7 @@ public:
 
     ZTKeyAccountDataType dataType() const override;
     bool parseElement(const QDomElement& theElement) const override;
+    bool readsElementsOnDemand() const override;
 
     ZTAPMArticlePriceInfo priceInfo(const ZTArticleId& theId) const;
 };

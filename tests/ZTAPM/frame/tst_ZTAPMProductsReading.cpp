@@ -315,6 +315,78 @@ private Q_SLOTS:
                 QCOMPARE(stores->deliveryTimes(id), wholeTimes.deliveryTimes(id));
         }
     }
+
+    // The prices and delivery times stores read an article's elements at its first question,
+    // from where a quick pass found them; documents whose offsets cannot be found are read whole.
+    // Either way the answers are those of a whole DOM, also once the file is gone.
+    void onDemandReadingMatchesAWholeReading_data()
+    {
+        QTest::addColumn<QByteArray>("declaration");
+        QTest::addColumn<QString>("encoding");
+        QTest::newRow("UTF-8") << QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>") << "UTF-8";
+        QTest::newRow("no declaration") << QByteArray() << "UTF-8";
+        QTest::newRow("Latin-1") << QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>")
+                                 << "Latin-1";
+        QTest::newRow("entities") << QByteArray("<!DOCTYPE prices [<!ENTITY n \"Fotobuch\">]>") << "UTF-8";
+    }
+
+    void onDemandReadingMatchesAWholeReading()
+    {
+        QFETCH(QByteArray, declaration);
+        QFETCH(QString, encoding);
+        const auto element = [](const char* theTag, int theId, int thePrice, const QString& theName) {
+            return QStringLiteral(
+                       "<%1 id=\"%2\" name=\"%3\" note='a>b'>\r\n<base_prices><price input_source=\"0\" "
+                       "delivery_type=\"1\" level=\"0\" quantity=\"1\" price=\"%4\"/></base_prices>"
+                       "<delivery_times><delivery_time days=\"%5-9\" delivery_type=\"1\" express=\"0\"/>"
+                       "</delivery_times></%1>\r\n")
+                .arg(QLatin1String(theTag))
+                .arg(theId)
+                .arg(theName)
+                .arg(thePrice)
+                .arg(thePrice % 7);
+        };
+        // Letters of two and four bytes before, in and between elements shift bytes from
+        // characters; the add-on of id 3 wins over its article, the later element of id 1 over
+        // the earlier.
+        const QString wide = encoding == QLatin1String("UTF-8") ? QStringLiteral("\u00e4\U0001F600")
+                                                                : QStringLiteral("\u00e4");
+        const QString name = declaration.contains("ENTITY") ? QStringLiteral("&n; ") + wide : wide;
+        const QString text = QStringLiteral("\r\n<prices>\r\n<!-- ") + wide +
+                             QStringLiteral(" -->\r\n<add_ons>") + element("add_on", 3, 301, name) +
+                             QStringLiteral("</add_ons>\r\n<articles>") + element("article", 1, 101, name) +
+                             QStringLiteral("<article id=\"2\"/>") + wide + element("article", 3, 103, name) +
+                             element("article", 1, 111, wide + wide) +
+                             element("article", 4, 104, QStringLiteral("&amp;&#x1F600;")) +
+                             QStringLiteral("</articles><transfers>") + element("transfer", 9, 901, name) +
+                             QStringLiteral("</transfers></prices>");
+        const QByteArray bytes =
+            declaration + (encoding == QLatin1String("UTF-8") ? text.toUtf8() : text.toLatin1());
+        QTemporaryDir directory;
+        for (const char* name : {"prices.xml", "deliverytimes.xml"}) {
+            QFile file(directory.filePath(QLatin1String(name)));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(bytes);
+        }
+        ZTSingleton<ZTProgramConfig>::instance()->setKeyAccountDirectory(directory.path());
+        ZTAPMArticlePrices prices, wholePrices;
+        ZTAPMArticleDeliveryTimes times, wholeTimes;
+        QList<ZTArticleId> ids;
+        readWhole(wholePrices, rootOf(directory.path(), "prices.xml"), &ids);
+        readWhole(wholeTimes, rootOf(directory.path(), "deliverytimes.xml"), &ids);
+        QVERIFY(wholePrices.priceInfo(ZTArticleId(1)).isValid() &&
+                wholeTimes.deliveryTimes(ZTArticleId(3)).size() == 1);
+        QCOMPARE(prices.priceInfo(ZTArticleId(4)), wholePrices.priceInfo(ZTArticleId(4)));
+        QCOMPARE(times.deliveryTimes(ZTArticleId(4)), wholeTimes.deliveryTimes(ZTArticleId(4)));
+        // What was not asked yet is read from the file as it was found.
+        QVERIFY(QFile::remove(directory.filePath(QStringLiteral("prices.xml"))));
+        QVERIFY(QFile::remove(directory.filePath(QStringLiteral("deliverytimes.xml"))));
+        for (const ZTArticleId& id : std::as_const(ids) + QList<ZTArticleId>{ZTArticleId(5)}) {
+            QCOMPARE(prices.priceInfo(id), wholePrices.priceInfo(id));
+            QCOMPARE(times.deliveryTimes(id), wholeTimes.deliveryTimes(id));
+        }
+        ZTSingleton<ZTProgramConfig>::instance()->setKeyAccountDirectory(QStringLiteral(ZT_DEMO_DATA_DIR));
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_ZTAPMProductsReading)
