@@ -1,6 +1,7 @@
 #include "ZTProductRegistryAbstract.h"
 
 #include "ZTArticleId.h"
+#include "ZTMutexLocker.h"
 #include "ZTProductAbstract.h"
 #include "ZTProductFactory.h"
 #include "ZTShippingGroupId.h"
@@ -60,6 +61,6 @@ void ZTProductRegistryAbstract::keepAlive(const QList<ZTProductAbstract*>& thePr
     // Registries outside the data base (tests, tools) have no common lock, hence one here.
     static QMutex theMutex;
     static auto* theKeptProducts = new QList<ZTProductAbstract*>;
-    QMutexLocker locker(&theMutex);
+    ZTMutexLocker locker(&theMutex);
     *theKeptProducts += theProducts;
 }

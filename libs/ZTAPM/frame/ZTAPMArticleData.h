@@ -3,8 +3,10 @@
 
 #include "ZTArticleId.h"
 #include "ZTKeyAccountDataType.h"
+#include "ZTReadLocker.h"
 #include "ZTResourceFile.h"
 #include "ZTTemplateExport.h"
+#include "ZTWriteLocker.h"
 #include "ZTXMLLoader.h"
 
 #include <QDomElement>
@@ -43,7 +45,7 @@ public:
     // Stores a value, replacing what stood under the id; true if that changes the value.
     virtual bool insert(const ZTArticleId& theId, const T& theValue) const
     {
-        QWriteLocker locker(&myLock);
+        ZTWriteLocker locker(&myLock);
         const auto existing = myData.constFind(theId);
         const bool changed = existing == myData.cend() ? !(theValue == T()) : !(theValue == *existing);
         myData.insert(theId, theValue);
@@ -138,7 +140,7 @@ public:
         size_t sectionCount() const { return size_t(myStore.sectionNames().size()); }
 
         const ZTAPMArticleData& myStore;
-        QWriteLocker myLocker;
+        ZTWriteLocker myLocker;
         QHash<ZTArticleId, T> myPrevious;
         std::vector<bool> myStarted;
         std::vector<QList<QDomElement>> myDeferred;
@@ -161,7 +163,7 @@ public:
     // fill it instead of the store reading the file itself at its first question.
     bool wantsReadingOf(const QFileInfo& theFile) const
     {
-        QReadLocker reader(&myLock);
+        ZTReadLocker reader(&myLock);
         return !myLoaded && theFile.absoluteFilePath() ==
                                 ZTResourceFile(dataType()).fileInfo(false, QString()).absoluteFilePath();
     }
@@ -171,11 +173,11 @@ public:
     T data(const ZTArticleId& theId) const
     {
         {
-            QReadLocker reader(&myLock);
+            ZTReadLocker reader(&myLock);
             if (myLoaded)
                 return valueOf(theId);
         }
-        QWriteLocker writer(&myLock);
+        ZTWriteLocker writer(&myLock);
         // Another thread may have loaded between the two locks.
         if (!myLoaded)
             load();
