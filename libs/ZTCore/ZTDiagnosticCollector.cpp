@@ -1,6 +1,6 @@
 #include "ZTDiagnosticCollector.h"
 
-#include <QMutexLocker>
+#include "ZTMutexLocker.h"
 
 #include <algorithm>
 #include <atomic>
@@ -45,7 +45,7 @@ void ZTDiagnosticCollector::uninstall()
 
 void ZTDiagnosticCollector::add(const ZTDiagnostic& theDiagnostic)
 {
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker<QMutex> locker(&myMutex);
     myDiagnostics.append(theDiagnostic);
 }
 
@@ -53,7 +53,7 @@ QList<ZTDiagnostic> ZTDiagnosticCollector::diagnostics() const
 {
     QList<ZTDiagnostic> result;
     {
-        QMutexLocker locker(&myMutex);
+        ZTMutexLocker<QMutex> locker(&myMutex);
         result = myDiagnostics;
     }
     std::sort(result.begin(), result.end());
@@ -65,7 +65,7 @@ void ZTDiagnosticCollector::noteElement(const QString& theFile, const QString& t
                                         int theLine, int theColumn)
 {
     const QString key = elementKey(theFile, theTag, theId);
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker<QMutex> locker(&myMutex);
     if (!myElements.contains(key))
         myElements.insert(key, qMakePair(theLine, theColumn));
 }
@@ -73,7 +73,7 @@ void ZTDiagnosticCollector::noteElement(const QString& theFile, const QString& t
 bool ZTDiagnosticCollector::elementPosition(const QString& theFile, const QString& theTag,
                                             const QString& theId, int* theLine, int* theColumn) const
 {
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker<QMutex> locker(&myMutex);
     const auto found = myElements.constFind(elementKey(theFile, theTag, theId));
     if (found == myElements.cend())
         return false;

@@ -1,6 +1,7 @@
 #include "ZTInitializer.h"
 
 #include "ZTInitializerAbstract.h"
+#include "ZTMutexLocker.h"
 
 #include <QDebug>
 
@@ -10,7 +11,7 @@ ZTInitializer::~ZTInitializer() = default;
 
 void ZTInitializer::registerInitializer(ZTInitializerAbstract* theInitializer)
 {
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     if (!theInitializer || myInitializers.contains(theInitializer)) {
         qWarning() << "initializer not registered: null or registered before";
         return;
@@ -20,14 +21,14 @@ void ZTInitializer::registerInitializer(ZTInitializerAbstract* theInitializer)
 
 void ZTInitializer::unregisterInitializer(ZTInitializerAbstract* theInitializer)
 {
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     myInitializers.removeAll(theInitializer);
     mySetUp.removeAll(theInitializer);
 }
 
 QList<ZTInitializerAbstract*> ZTInitializer::initializers() const
 {
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     return myInitializers;
 }
 
@@ -41,7 +42,7 @@ void ZTInitializer::setupAll(ZTInitializerOption theOption)
 {
     QList<ZTInitializerAbstract*> pending;
     {
-        QMutexLocker locker(&myMutex);
+        ZTMutexLocker locker(&myMutex);
         if (myIsSetUp)
             return;
         myIsSetUp = true;
@@ -49,7 +50,7 @@ void ZTInitializer::setupAll(ZTInitializerOption theOption)
     }
     for (ZTInitializerAbstract* initializer : pending) {
         initializer->setup(theOption);
-        QMutexLocker locker(&myMutex);
+        ZTMutexLocker locker(&myMutex);
         // It may have been unregistered meanwhile; then nobody tears it down.
         if (myInitializers.contains(initializer))
             mySetUp.append(initializer);
@@ -61,7 +62,7 @@ void ZTInitializer::teardownAll()
     for (;;) {
         ZTInitializerAbstract* initializer = nullptr;
         {
-            QMutexLocker locker(&myMutex);
+            ZTMutexLocker locker(&myMutex);
             if (mySetUp.isEmpty()) {
                 myIsSetUp = false;
                 return;
@@ -74,6 +75,6 @@ void ZTInitializer::teardownAll()
 
 bool ZTInitializer::isSetUp() const
 {
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     return myIsSetUp;
 }

@@ -1,11 +1,12 @@
 #include "ZTProgramConfig.h"
 
+#include "ZTMutexLocker.h"
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMutexLocker>
 #include <QStringList>
 
 #include <cctype>
@@ -62,7 +63,7 @@ ZTProgramConfig::~ZTProgramConfig() = default;
 int ZTProgramConfig::programID() const
 {
     {
-        QMutexLocker locker(&myMutex);
+        ZTMutexLocker locker(&myMutex);
         if (myProgramID > 0)
             return myProgramID;
     }
@@ -82,14 +83,14 @@ int ZTProgramConfig::programID() const
 
 void ZTProgramConfig::setProgramID(int theProgramID)
 {
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     myProgramID = theProgramID > 0 ? theProgramID : 0;
 }
 
 QString ZTProgramConfig::keyAccountDirectory() const
 {
     {
-        QMutexLocker locker(&myMutex);
+        ZTMutexLocker locker(&myMutex);
         if (!myKeyAccountDirectory.isEmpty())
             return myKeyAccountDirectory;
     }
@@ -102,7 +103,7 @@ QString ZTProgramConfig::keyAccountDirectory() const
 void ZTProgramConfig::setKeyAccountDirectory(const QString& theDirectory)
 {
     const QString directory = theDirectory.isEmpty() ? QString() : absoluteClean(theDirectory);
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     myKeyAccountDirectory = directory;
 }
 
@@ -123,7 +124,7 @@ QString ZTProgramConfig::translationsDirectory()
 QByteArray ZTProgramConfig::desKey() const
 {
     {
-        QMutexLocker locker(&myMutex);
+        ZTMutexLocker locker(&myMutex);
         if (!myDesKey.isEmpty())
             return myDesKey;
     }
@@ -147,7 +148,7 @@ void ZTProgramConfig::setDesKey(const QByteArray& theKey)
         qWarning() << "a DES key has 8 bytes, not" << theKey.size() << "- key unchanged";
         return;
     }
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     myDesKey = theKey;
 }
 

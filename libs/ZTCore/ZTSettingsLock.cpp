@@ -1,5 +1,7 @@
 #include "ZTSettingsLock.h"
 
+#include "ZTThreadSanitizer.h"
+
 #include <QDebug>
 #include <QDir>
 #include <QLockFile>
@@ -31,6 +33,7 @@ ZTSettingsLock::ZTSettingsLock()
 {
     ProcessLock& lock = processLock();
     lock.mutex.lock();
+    ZTThreadSanitizer::acquired(&lock.mutex);
     if (++lock.depth > 1)
         return;
     const QString directory = settingsDirectory();
@@ -50,6 +53,7 @@ ZTSettingsLock::~ZTSettingsLock()
         lock.lockFile->unlock();
         lock.holdsFile = false;
     }
+    ZTThreadSanitizer::releasing(&lock.mutex);
     lock.mutex.unlock();
 }
 

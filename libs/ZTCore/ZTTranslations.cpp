@@ -6,7 +6,7 @@
 #include <QFileInfo>
 #include <QList>
 #include <QMutex>
-#include <QMutexLocker>
+#include "ZTMutexLocker.h"
 #include <QRegularExpression>
 #include <QTranslator>
 
@@ -38,7 +38,7 @@ QStringList ZTTranslations::install(const QString& theLanguage, const QStringLis
 {
     const QString directory =
         theDirectory.isEmpty() ? ZTProgramConfig::translationsDirectory() : theDirectory;
-    QMutexLocker locker(&theInstalledMutex);
+    ZTMutexLocker<QMutex> locker(&theInstalledMutex);
     for (QTranslator* translator : std::as_const(theInstalled)) {
         QCoreApplication::removeTranslator(translator);
         delete translator;

@@ -1,5 +1,6 @@
 #include "ZTPageOrganizationManager.h"
 
+#include "ZTMutexLocker.h"
 #include "ZTPageOrganizationCalculator.h"
 
 ZTPageOrganizationManager::ZTPageOrganizationManager() = default;
@@ -9,7 +10,7 @@ void ZTPageOrganizationManager::setCalculator(ZTPageOrganizationCalculator* theC
 {
     std::shared_ptr<ZTPageOrganizationCalculator> previous;
     {
-        QMutexLocker locker(&myMutex);
+        ZTMutexLocker locker(&myMutex);
         if (myCalculator.get() == theCalculator)
             return;
         previous = std::move(myCalculator);
@@ -22,13 +23,13 @@ void ZTPageOrganizationManager::setCalculator(ZTPageOrganizationCalculator* theC
 
 bool ZTPageOrganizationManager::hasCalculator() const
 {
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     return myCalculator != nullptr;
 }
 
 void ZTPageOrganizationManager::clearCache()
 {
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     myCache.clear();
     ++myGeneration;
 }
@@ -39,7 +40,7 @@ ZTPageOrganizationManager::pageCountOrganization(const ZTProductType& theProduct
     std::shared_ptr<ZTPageOrganizationCalculator> calculator;
     quint64 generation = 0;
     {
-        QMutexLocker locker(&myMutex);
+        ZTMutexLocker locker(&myMutex);
         const auto cached = myCache.constFind(theProductType);
         if (cached != myCache.constEnd())
             return cached.value();
@@ -53,7 +54,7 @@ ZTPageOrganizationManager::pageCountOrganization(const ZTProductType& theProduct
     // would give a lock order that the catalogue's own clearCache() call can deadlock against.
     const ZTPageCountOrganization result = calculator->createPageOrganization(theProductType);
 
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     if (generation == myGeneration)
         myCache.insert(theProductType, result);
     return result;

@@ -1,5 +1,6 @@
 #include "ZTProductCheckerRegistry.h"
 
+#include "ZTMutexLocker.h"
 #include "ZTProductChecker.h"
 
 ZTProductCheckerRegistry::ZTProductCheckerRegistry() = default;
@@ -16,7 +17,7 @@ void ZTProductCheckerRegistry::registerChecker(ZTProductChecker* theChecker)
     // Asked before taking the lock: the checker may ask the registry in turn.
     const ZTProductCheckerTypeEnum type = theChecker->type().value();
 
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     for (const auto& entry : std::as_const(myCheckers)) {
         if (entry.second == theChecker)
             return;
@@ -28,13 +29,13 @@ void ZTProductCheckerRegistry::registerChecker(ZTProductChecker* theChecker)
 
 int ZTProductCheckerRegistry::checkerCount() const
 {
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     return int(myCheckers.size());
 }
 
 void ZTProductCheckerRegistry::clearCaches()
 {
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     myCache.clear();
     ++myGeneration;
 }
@@ -58,7 +59,7 @@ bool ZTProductCheckerRegistry::isValid(const ZTProductType& theProductType,
     QList<ZTProductChecker*> checkers;
     quint64 generation = 0;
     {
-        QMutexLocker locker(&myMutex);
+        ZTMutexLocker locker(&myMutex);
         const auto perMask = myCache.constFind(mask);
         if (perMask != myCache.constEnd()) {
             const auto cached = perMask->constFind(theProductType);
@@ -78,7 +79,7 @@ bool ZTProductCheckerRegistry::isValid(const ZTProductType& theProductType,
         }
     }
 
-    QMutexLocker locker(&myMutex);
+    ZTMutexLocker locker(&myMutex);
     if (generation == myGeneration)
         myCache[mask].insert(theProductType, valid);
     return valid;
@@ -91,7 +92,7 @@ bool ZTProductCheckerRegistry::isValidBoxStyle(const ZTProductType& theProductTy
     QList<ZTProductChecker*> checkers;
     quint64 generation = 0;
     {
-        QMutexLocker locker(&myMutex);
+        ZTMutexLocker locker(&myMutex);
         checkers = selectedCheckers(theTypes, &generation);
     }
     for (const ZTProductChecker* checker : std::as_const(checkers)) {

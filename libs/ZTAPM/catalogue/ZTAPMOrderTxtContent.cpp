@@ -1,4 +1,5 @@
 #include "ZTAPMOrderTxtContent.h"
+#include "ZTMutexLocker.h"
 
 #include <QDomElement>
 
@@ -14,7 +15,7 @@ ZTAPMOrderTxtContent& ZTAPMOrderTxtContent::operator=(const ZTAPMOrderTxtContent
         QHash<QString, QString> cache = other.valueCache();
         myHead = other.myHead;
         myLines = other.myLines;
-        QMutexLocker locker(&myValueCacheMutex);
+        ZTMutexLocker locker(&myValueCacheMutex);
         myValueCache.swap(cache);
     }
     return *this;
@@ -24,7 +25,7 @@ ZTAPMOrderTxtContent::~ZTAPMOrderTxtContent() = default;
 
 QHash<QString, QString> ZTAPMOrderTxtContent::valueCache() const
 {
-    QMutexLocker locker(&myValueCacheMutex);
+    ZTMutexLocker locker(&myValueCacheMutex);
     return myValueCache;
 }
 
@@ -60,7 +61,7 @@ bool ZTAPMOrderTxtContent::isValid() const
 
 QString ZTAPMOrderTxtContent::orderTxtValue(const QString& theKey) const
 {
-    QMutexLocker locker(&myValueCacheMutex);
+    ZTMutexLocker locker(&myValueCacheMutex);
     const auto cached = myValueCache.constFind(theKey);
     if (cached != myValueCache.cend() && !cached->isEmpty())
         return *cached;
@@ -83,7 +84,7 @@ void ZTAPMOrderTxtContent::update(const QDomElement& theElement)
         return;
     myLines.clear();
     {
-        QMutexLocker locker(&myValueCacheMutex);
+        ZTMutexLocker locker(&myValueCacheMutex);
         myValueCache.clear();
     }
     myHead = linesElement.attribute(QStringLiteral("head"));

@@ -2,6 +2,7 @@
 
 #include "ZTArticleId.h"
 #include "ZTDiagnosticCollector.h"
+#include "ZTMutexLocker.h"
 #include "ZTProductAbstract.h"
 #include "ZTProductFactory.h"
 #include "ZTShippingGroupId.h"
@@ -66,6 +67,6 @@ void ZTProductRegistryAbstract::keepAlive(const QList<ZTProductAbstract*>& thePr
     // Registries outside the data base (tests, tools) have no common lock, hence one here.
     static QMutex theMutex;
     static auto* theKeptProducts = new QList<ZTProductAbstract*>;
-    QMutexLocker locker(&theMutex);
+    ZTMutexLocker locker(&theMutex);
     *theKeptProducts += theProducts;
 }

@@ -5,8 +5,10 @@
 #include "ZTArticleId.h"
 #include "ZTDiagnosticCollector.h"
 #include "ZTKeyAccountDataType.h"
+#include "ZTReadLocker.h"
 #include "ZTResourceFile.h"
 #include "ZTTemplateExport.h"
+#include "ZTWriteLocker.h"
 #include "ZTXMLLoader.h"
 
 #include <QDomElement>
@@ -47,7 +49,7 @@ public:
     // Stores a value, replacing what stood under the id; true if that changes the value.
     virtual bool insert(const ZTArticleId& theId, const T& theValue) const
     {
-        QWriteLocker locker(&myLock);
+        ZTWriteLocker locker(&myLock);
         const auto existing = myData.constFind(theId);
         const bool changed = existing == myData.cend() ? !(theValue == T()) : !(theValue == *existing);
         myData.insert(theId, theValue);
@@ -80,7 +82,7 @@ public:
             return;
         // Findings name the place of every element, so a reading that collects them reads whole.
         if (readsElementsOnDemand() && !ZTDiagnosticCollector::isCollecting()) {
-            QWriteLocker writer(&myLock);
+            ZTWriteLocker writer(&myLock);
             ZTAPMElementIndex index;
             const ZTXMLLoader::Indexing indexing = index.build(file, sectionNames(), nodeNames());
             if (indexing != ZTXMLLoader::Indexing::Unsuitable) {
@@ -176,7 +178,7 @@ public:
         size_t sectionCount() const { return size_t(myStore.sectionNames().size()); }
 
         const ZTAPMArticleData& myStore;
-        QWriteLocker myLocker;
+        ZTWriteLocker myLocker;
         QHash<ZTArticleId, T> myPrevious;
         std::vector<bool> myStarted;
         std::vector<QList<QDomElement>> myDeferred;
@@ -206,7 +208,7 @@ public:
     // fill it instead of the store reading the file itself at its first question.
     bool wantsReadingOf(const QFileInfo& theFile) const
     {
-        QReadLocker reader(&myLock);
+        ZTReadLocker reader(&myLock);
         return !myLoaded && theFile.absoluteFilePath() ==
                                 ZTResourceFile(dataType()).fileInfo(false, QString()).absoluteFilePath();
     }
@@ -216,7 +218,7 @@ public:
     T data(const ZTArticleId& theId) const
     {
         {
-            QReadLocker reader(&myLock);
+            ZTReadLocker reader(&myLock);
             if (myLoaded) {
                 const auto found = myData.constFind(theId);
                 if (found != myData.cend())
@@ -225,7 +227,7 @@ public:
                     return T();
             }
         }
-        QWriteLocker writer(&myLock);
+        ZTWriteLocker writer(&myLock);
         // Another thread may have loaded, or read the id, between the two locks.
         if (!myLoaded)
             load();
@@ -239,7 +241,7 @@ public:
     // The ids that hold a value, ascending: for checks over the whole document.
     QList<ZTArticleId> ids() const
     {
-        QReadLocker reader(&myLock);
+        ZTReadLocker reader(&myLock);
         QList<ZTArticleId> result = myData.keys();
         std::sort(result.begin(), result.end());
         return result;

@@ -1,4 +1,5 @@
 #include "ZTAPMArticleDefinitions.h"
+#include "ZTWriteLocker.h"
 
 #include "ZTDiagnosticCollector.h"
 
@@ -9,7 +10,7 @@ ZTAPMArticleDefinitions::~ZTAPMArticleDefinitions() = default;
 
 bool ZTAPMArticleDefinitions::insert(const ZTArticleId& theId, const ZTAPMArticleDefinition& theValue) const
 {
-    QWriteLocker locker(&lock());
+    ZTWriteLocker locker(&lock());
     if (!containsUnlocked(theId))
         return ZTAPMArticleData<ZTAPMArticleDefinition>::insert(theId, theValue);
     // The copy shares its body with the stored entry, so the update lands there too.

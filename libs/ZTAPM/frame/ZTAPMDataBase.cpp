@@ -8,6 +8,7 @@
 #include "ZTDiscountModel.h"
 #include "ZTExpressKey.h"
 #include "ZTKeyAccount.h"
+#include "ZTMutexLocker.h"
 #include "ZTOrderSource.h"
 #include "ZTPageOrganizationManager.h"
 #include "ZTPaymentId.h"
@@ -33,37 +34,7 @@
 
 #include <algorithm>
 
-#if defined(__SANITIZE_THREAD__)
-#include <sanitizer/tsan_interface.h>
-#endif
-
 namespace {
-
-// Holds the data base's mutex for a scope. Qt's mutexes live in a library that ThreadSanitizer
-// does not see into, so under it the hand-over is announced explicitly; otherwise this is a
-// plain QMutexLocker.
-class DataBaseLocker
-{
-public:
-    explicit DataBaseLocker(QRecursiveMutex* theMutex) : myMutex(theMutex)
-    {
-        myMutex->lock();
-#if defined(__SANITIZE_THREAD__)
-        __tsan_acquire(myMutex);
-#endif
-    }
-    ~DataBaseLocker()
-    {
-#if defined(__SANITIZE_THREAD__)
-        __tsan_release(myMutex);
-#endif
-        myMutex->unlock();
-    }
-    Q_DISABLE_COPY(DataBaseLocker)
-
-private:
-    QRecursiveMutex* const myMutex;
-};
 
 // A program variant that works without a catalogue of its own.
 constexpr int programIdWithoutCatalogue = 8;
@@ -123,7 +94,7 @@ QList<ZTProductRegistryAbstract*> ZTAPMDataBase::registries() const
 
 QList<int> ZTAPMDataBase::productCounts() const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return {myProducts->productCount(), myPaymentFees->productCount(), myTransferFees->productCount(),
             myExpressFees->productCount(), myShipmentMethodFees->productCount()};
 }
@@ -132,7 +103,7 @@ ZTProductList ZTAPMDataBase::allProducts() const
 {
     ZTProductList candidates;
     {
-        DataBaseLocker locker(myLock);
+        ZTMutexLocker locker(myLock);
         candidates << myProducts->productList() << myProducts->allAddOns() << myTransferFees->productList()
                    << myExpressFees->productList() << myPaymentFees->productList()
                    << myShipmentMethodFees->productList();
@@ -154,7 +125,7 @@ ZTProductList ZTAPMDataBase::allProducts() const
 
 ZTProductAbstract* ZTAPMDataBase::productAbstract(const ZTArticleId& theId) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     for (const ZTProductRegistryAbstract* registry : std::initializer_list<const ZTProductRegistryAbstract*>{
              myProducts, myExpressFees, myTransferFees, myShipmentMethodFees, myPaymentFees}) {
         if (ZTProductAbstract* product = registry->productWithArticleID(theId))
@@ -167,7 +138,7 @@ ZTProductAbstract* ZTAPMDataBase::productAbstract(const ZTProductType& theType) 
 {
     if (!theType.isValid())
         return nullptr;
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->findProductAbstract(theType);
 }
 
@@ -179,7 +150,7 @@ ZTProductAbstract* ZTAPMDataBase::firstValidProductAbstract() const
 
 bool ZTAPMDataBase::existsAnyAddOn(const ZTArticleClass& theClass) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->existsAnyAddOn(theClass);
 }
 
@@ -190,7 +161,7 @@ ZTProductList ZTAPMDataBase::addOnsForClass(const ZTArticleClass& theClass) cons
 
 ZTDiscountLimitSet ZTAPMDataBase::discountLimits(const ZTDiscountLimitListKey& theKey) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->discountLimits(theKey);
 }
 
@@ -198,19 +169,19 @@ bool ZTAPMDataBase::containsDiscountModel(const ZTShippingGroupId& theShippingGr
                                           const ZTAPMPriceKey& thePriceKey,
                                           const ZTDiscountModel& theModel) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->containsDiscountModel(theShippingGroupId, thePriceKey, theModel);
 }
 
 ZTProductList ZTAPMDataBase::productsForArticleClass(const ZTArticleClass& theClass) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->productsForArticleClass(theClass);
 }
 
 ZTProductList ZTAPMDataBase::productsForShippingGroup(const ZTShippingGroupId& theShippingGroupId) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->productsForShippingGroup(theShippingGroupId, true);
 }
 
@@ -218,28 +189,28 @@ bool ZTAPMDataBase::shippingTimesEnabled(const ZTShippingGroupId& theShippingGro
                                          const ZTOrderSource& theOrderSource,
                                          const ZTExpressType& theExpressType) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->shippingTimesEnabled(theShippingGroupId, theOrderSource, theExpressType);
 }
 
 bool ZTAPMDataBase::shippingGroupHasUnitTransferPrice(const ZTShippingGroupId& theShippingGroupId,
                                                       const ZTAPMPriceKey& thePriceKey) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->shippingGroupHasUnitTransferPrice(theShippingGroupId, thePriceKey);
 }
 
 ZTProductList ZTAPMDataBase::findDependentProducts(const ZTArticleId& theId,
                                                    const ZTArticleClass& theClass) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->findDependentProducts(theId, theClass);
 }
 
 ZTProductAbstract* ZTAPMDataBase::findDependentProduct(const ZTArticleId& theId,
                                                        const ZTPriceClass& thePriceClass) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->findDependentProduct(theId, thePriceClass);
 }
 
@@ -266,32 +237,32 @@ ZTEmptyMeansAllSet<ZTProductAbstract*>
 ZTAPMDataBase::findProducts(const ZTEmptyMeansAllSet<ZTArticleClass>& theClasses,
                             const ZTEmptyMeansAllSet<ZTCoverType>& theCovers) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->findProducts(theClasses, theCovers);
 }
 
 ZTProductAbstract* ZTAPMDataBase::mostEquivalentProduct(ZTProductAbstract* theProduct,
                                                         const ZTArticleClass& theClass) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->mostEquivalentProduct(theProduct, theClass);
 }
 
 bool ZTAPMDataBase::existsDependentProduct(const ZTArticleId& theId, const ZTArticleClass& theClass) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myProducts->existsDependentProduct(theId, theClass);
 }
 
 ZTProductAbstract* ZTAPMDataBase::transferProduct(const ZTShippingGroupId& theShippingGroupId) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myTransferFees->transferProduct(theShippingGroupId);
 }
 
 ZTProductAbstract* ZTAPMDataBase::paymentFeeProduct(const ZTPaymentId& thePaymentId) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myPaymentFees->paymentFeeProduct(thePaymentId);
 }
 
@@ -303,57 +274,57 @@ ZTProductAbstract* ZTAPMDataBase::paymentFeeProduct(const ZTPaymentMethod& theMe
 
 bool ZTAPMDataBase::expressFeeProductsExist() const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myExpressFees->expressFeeProductsExist();
 }
 
 QList<const ZTProductAbstract*>
 ZTAPMDataBase::expressFeeProducts(const ZTShippingGroupId& theShippingGroupId) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myExpressFees->expressFeeProducts(theShippingGroupId);
 }
 
 ZTProductAbstract* ZTAPMDataBase::expressFeeProduct(const ZTExpressKey& theKey) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myExpressFees->expressFeeProduct(theKey);
 }
 
 ZTExpressType ZTAPMDataBase::expressType(const ZTArticleId& theId) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myExpressFees->expressType(theId);
 }
 
 ZTProductAbstract* ZTAPMDataBase::shipmentMethodFeeProduct(int theShipmentMethodId) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myShipmentMethodFees->shipmentMethodFeeProduct(theShipmentMethodId);
 }
 
 int ZTAPMDataBase::idOfShipmentMethodFeeProduct(int theShipmentMethodId) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myShipmentMethodFees->idOfShipmentMethodFeeProduct(theShipmentMethodId);
 }
 
 bool ZTAPMDataBase::productIsExpressable(ZTProductAbstract* theProduct) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return theProduct && theProduct->isExpressable() &&
            myExpressFees->hasAnyExpressFeeProduct(theProduct->shippingGroupId());
 }
 
 bool ZTAPMDataBase::productIsExpressable(const ZTArticleId& theId) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return productIsExpressable(productAbstract(theId));
 }
 
 bool ZTAPMDataBase::shippingGroupIsExpressable(const ZTShippingGroupId& theShippingGroupId) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     for (ZTProductAbstract* product : myProducts->productList(theShippingGroupId)) {
         if (productIsExpressable(product))
             return true;
@@ -364,7 +335,7 @@ bool ZTAPMDataBase::shippingGroupIsExpressable(const ZTShippingGroupId& theShipp
 ZTExpressTypeList ZTAPMDataBase::supportedExpressTypes(const ZTShippingGroupId& theShippingGroupId,
                                                        const ZTAPMPriceKey& thePriceKey) const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     ZTExpressTypeList result;
     for (const ZTExpressType& type : myExpressFees->findExpressTypes(theShippingGroupId, thePriceKey)) {
         if (shippingTimesEnabled(theShippingGroupId, thePriceKey.orderSource(), type))
@@ -408,7 +379,7 @@ void ZTAPMDataBase::updateProducts(const QDomNode& theRoot)
 void ZTAPMDataBase::updateRegistries(const std::function<void(ZTProductRegistryAbstract*)>& theReading)
 {
     {
-        DataBaseLocker locker(myLock);
+        ZTMutexLocker locker(myLock);
         for (ZTProductRegistryAbstract* registry : registries())
             theReading(registry);
         ZTSingleton<ZTPageOrganizationManager>::instance()->clearCache();
@@ -431,6 +402,6 @@ bool ZTAPMDataBase::softwareShouldBeRestarted() const
 
 int ZTAPMDataBase::productUpdateCount() const
 {
-    DataBaseLocker locker(myLock);
+    ZTMutexLocker locker(myLock);
     return myUpdateCount;
 }

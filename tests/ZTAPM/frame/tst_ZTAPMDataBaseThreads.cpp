@@ -16,12 +16,10 @@
 
 // Catalogue questions from several threads while the main thread switches key accounts back and
 // forth, so that every registry is read again under the readers' feet. Meant to be run under
-// ThreadSanitizer as well as plainly:
-//   cmake -S . -B build-tsan -G Ninja -DCMAKE_CXX_FLAGS=-fsanitize=thread
-//         -DCMAKE_EXE_LINKER_FLAGS=-fsanitize=thread -DCMAKE_SHARED_LINKER_FLAGS=-fsanitize=thread
-//         -DZT_BUILD_BENCHMARKS=OFF
+// ThreadSanitizer as well as plainly (.ci/run does both):
+//   cmake -S . -B build-tsan -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DZT_SANITIZE_THREAD=ON
 //   cmake --build build-tsan --target tst_ZTAPMDataBaseThreads
-//   TSAN_OPTIONS=suppressions=tests/ZTAPM/tsan.supp build-tsan/bin/tst_ZTAPMDataBaseThreads
+//   TSAN_OPTIONS=suppressions=tests/ZTAPM/tsan-qt.supp build-tsan/bin/tst_ZTAPMDataBaseThreads
 class TestAPMDataBaseThreads : public QObject
 {
     Q_OBJECT
