@@ -277,6 +277,45 @@ private Q_SLOTS:
         QCOMPARE((*photoPack)[QStringLiteral("package")].toString(), photoPackText);
     }
 
+    // result in German: its lines, and the keywords of JSON where the text shows them, are
+    // translated; JSON is the same as in English.
+    void resultInGerman_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::newRow("head") << "Bestellberechnung %1, Bestellweg FM, Zahlart 3";
+        QTest::newRow("fee without article") << "  Expressgebühr: keine";
+        QTest::newRow("fee with article") << "  Zahlungsgebühr (Artikel 9202): 1,50 €";
+        QTest::newRow("tax") << "  Umsatzsteuer: 3,12 €";
+        QTest::newRow("shipping dates")
+            << "  Versandtermine: Standard 2026-12-07 bis 2026-12-09, Express 2026-12-03";
+        QTest::newRow("express types") << "Expressarten aller Rechnungen: Standard";
+        QTest::newRow("comparison")
+            << "Lokaler Kostenvoranschlag: 199,76 €; 21 Zeile(n) verglichen, 2 Unterschied(e):";
+    }
+    void resultInGerman()
+    {
+        QFETCH(QString, line);
+        const QString file = QStringLiteral(ZT_TEST_DATA_DIR "/result-changed/result.xml");
+        const QStringList arguments{QStringLiteral("result"),     file,
+                                    QStringLiteral("--shipment"), QStringLiteral("2"),
+                                    QStringLiteral("--basket"),   QStringLiteral("1001:3"),
+                                    QStringLiteral("7003:4"),     QStringLiteral("3002:120"),
+                                    QStringLiteral("4001:1"),     QStringLiteral("5003:1")};
+        const Run german = ztapm(QStringList{QStringLiteral("--lang"), QStringLiteral("de")} + arguments);
+        QCOMPARE(german.exitCode, 0);
+        const QStringList lines = QString::fromUtf8(german.out).split(QLatin1Char('\n'));
+        QVERIFY2(lines.contains(line.arg(file)), german.out.constData());
+        QVERIFY2(std::any_of(lines.begin(), lines.end(),
+                             [](const QString& theLine) {
+                                 return theLine.startsWith(QLatin1String("  Gruppe 16 Position "));
+                             }),
+                 german.out.constData());
+        QCOMPARE(ztapm(QStringList{QStringLiteral("--lang"), QStringLiteral("de"), QStringLiteral("--json")} +
+                       arguments)
+                     .json(),
+                 ztapm(arguments << QStringLiteral("--json")).json());
+    }
+
     void demoMillionPiecesHaveNoPrice()
     {
         const Run run = ztapm({QStringLiteral("price"), QStringLiteral("1001"), QStringLiteral("1000000")});
