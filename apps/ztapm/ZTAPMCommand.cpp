@@ -10,6 +10,7 @@
 #include "ZTShippingGroupId.h"
 
 #include <QCoreApplication>
+#include <QMutex>
 #include <QTextStream>
 
 #include <algorithm>
@@ -17,8 +18,11 @@
 
 namespace {
 
+// Readers may log from more than one thread.
+QMutex theLogMutex;
 QStringList theWarnings;
 bool theVerboseLog = false;
+bool theWarningsShown = true;
 
 } // namespace
 
@@ -38,9 +42,11 @@ bool ZTAPMCommand::needsGuiApplication() const
 
 void ZTAPMCommand::collectMessage(QtMsgType theType, const QMessageLogContext&, const QString& theMessage)
 {
-    if (theType == QtWarningMsg || theType == QtCriticalMsg || theType == QtFatalMsg)
+    QMutexLocker locker(&theLogMutex);
+    const bool warning = theType == QtWarningMsg || theType == QtCriticalMsg || theType == QtFatalMsg;
+    if (warning)
         theWarnings.append(theMessage);
-    else if (!theVerboseLog)
+    if (!theVerboseLog && !(warning && theWarningsShown))
         return;
     std::fprintf(stderr, "%s\n", qPrintable(theMessage));
 }
@@ -48,6 +54,17 @@ void ZTAPMCommand::collectMessage(QtMsgType theType, const QMessageLogContext&, 
 void ZTAPMCommand::setVerbose(bool theVerbose)
 {
     theVerboseLog = theVerbose;
+}
+
+void ZTAPMCommand::setWarningsShown(bool theShown)
+{
+    QMutexLocker locker(&theLogMutex);
+    theWarningsShown = theShown;
+}
+
+int ZTAPMCommand::exitStatus(const QJsonObject&) const
+{
+    return Success;
 }
 
 QString ZTAPMCommand::orderSourceName(const ZTOrderSource& theSource)
@@ -126,6 +143,7 @@ QString ZTAPMCommand::keyAccountDirectory()
 
 QStringList ZTAPMCommand::warnings()
 {
+    QMutexLocker locker(&theLogMutex);
     return theWarnings;
 }
 

@@ -27,7 +27,7 @@ class ZTAPMCommand
     Q_DECLARE_TR_FUNCTIONS(ZTAPMCommand)
 
 public:
-    enum ExitStatus { Success = 0, UsageError = 2, NotFound = 3, InvalidResult = 4 };
+    enum ExitStatus { Success = 0, UsageError = 2, NotFound = 3, InvalidResult = 4, ErrorsFound = 5 };
 
     ZTAPMCommand();
     virtual ~ZTAPMCommand();
@@ -50,12 +50,16 @@ public:
     virtual int run(QJsonObject& theReport) = 0;
     // The report for a person.
     virtual void writeText(const QJsonObject& theReport, QTextStream& theOut) const = 0;
+    // The program's status once the report is printed: Success unless the command says otherwise.
+    virtual int exitStatus(const QJsonObject& theReport) const;
 
     // Installed as Qt's message handler for the life of the program: warnings go to stderr as they
     // happen and are kept for the start-up report; the rest of the log only when verbose.
     static void collectMessage(QtMsgType theType, const QMessageLogContext& theContext,
                                const QString& theMessage);
     static void setVerbose(bool theVerbose);
+    // Whether warnings go to stderr without --verbose (they do unless a command reports them itself).
+    static void setWarningsShown(bool theShown);
 
     // The command-line name of an order source, made of its two halves: "online-pos",
     // "online-mail", "cd-pos".

@@ -2,6 +2,7 @@
 
 #include "ZTAPMArticleCommand.h"
 #include "ZTAPMCatalogueCommand.h"
+#include "ZTAPMCheckCommand.h"
 #include "ZTAPMCommand.h"
 #include "ZTAPMLadderCommand.h"
 #include "ZTAPMOrderingCommand.h"
@@ -37,6 +38,7 @@ ZTAPMCommandLine::ZTAPMCommandLine()
     add<ZTAPMQuoteCommand>();
     add<ZTAPMOrderingCommand>();
     add<ZTAPMResultCommand>();
+    add<ZTAPMCheckCommand>();
 }
 
 ZTAPMCommandLine::~ZTAPMCommandLine() = default;
@@ -121,7 +123,7 @@ int ZTAPMCommandLine::run(const QStringList& theArguments)
         out << QJsonDocument(report).toJson(QJsonDocument::Indented);
     else
         chosen->writeText(report, out);
-    return ZTAPMCommand::Success;
+    return chosen->exitStatus(report);
 }
 
 ZTAPMCommand* ZTAPMCommandLine::command(const QString& theName) const
@@ -145,7 +147,7 @@ QString ZTAPMCommandLine::commandsHelp() const
     }
     return result + tr("Order sources (--source): %1.\n"
                        "Exit status: 0 done, 2 usage error, 3 data directory, file or article not found,\n"
-                       "4 the file is no valid order calculation.")
+                       "4 the file is no valid order calculation, 5 check found errors.")
                         .arg(ZTAPMCommand::orderSourcesHelp());
 }
 

@@ -1,5 +1,6 @@
 #include "ZTArticleId.h"
 
+#include "ZTDiagnosticCollector.h"
 #include "ZTXMLParser.h"
 
 #include <QDomElement>
@@ -29,6 +30,9 @@ ZTArticleId ZTArticleId::fromAttribute(const QDomElement& theElement, const QStr
     if (!ok) {
         qWarning() << "Invalid article id" << text << "in attribute" << theName << "of"
                    << theElement.tagName();
+        ZTDiagnosticCollector::report(ZTDiagnostic::Warning,
+                                      QStringLiteral("invalid article id \"%1\" in attribute %2 of %3")
+                                          .arg(text, theName, theElement.tagName()));
         return ZTArticleId();
     }
     return ZTArticleId(id);

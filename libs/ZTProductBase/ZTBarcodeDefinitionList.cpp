@@ -1,5 +1,6 @@
 #include "ZTBarcodeDefinitionList.h"
 
+#include "ZTDiagnosticCollector.h"
 #include "ZTXMLParser.h"
 
 #include <QDomElement>
@@ -74,6 +75,9 @@ ZTBarcodeDefinitionList ZTBarcodeDefinitionList::createFromXTCI(const QDomElemen
         const QDomElement article = theBarcode.parentNode().parentNode().toElement();
         qWarning().noquote() << "barcodes of article" << article.attribute(QStringLiteral("id")) << ":"
                              << problems.join(QStringLiteral("; "));
+        ZTDiagnosticCollector::report(ZTDiagnostic::Note, QStringLiteral("barcodes of article %1: %2")
+                                                              .arg(article.attribute(QStringLiteral("id")),
+                                                                   problems.join(QStringLiteral("; "))));
     }
     return result;
 }

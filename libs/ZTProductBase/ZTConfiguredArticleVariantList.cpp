@@ -1,5 +1,6 @@
 #include "ZTConfiguredArticleVariantList.h"
 
+#include "ZTDiagnosticCollector.h"
 #include "ZTXMLParser.h"
 
 #include <QDomElement>
@@ -30,9 +31,14 @@ ZTConfiguredArticleVariantList::ZTConfiguredArticleVariantList(const QDomElement
         append(ZTConfiguredArticleVariant(
             id, ZTXMLParser::attribute(variant, QStringLiteral("name"), QString(), true).trimmed()));
     }
-    if (!skipped.isEmpty())
+    if (!skipped.isEmpty()) {
         qWarning().noquote() << "variants of article" << theArticle.attribute(QStringLiteral("id"))
                              << "skipped:" << skipped.join(QStringLiteral("; "));
+        ZTDiagnosticCollector::report(
+            ZTDiagnostic::Warning,
+            QStringLiteral("variants of article %1 dropped: %2")
+                .arg(theArticle.attribute(QStringLiteral("id")), skipped.join(QStringLiteral("; "))));
+    }
 }
 
 ZTConfiguredArticleVariantList::ZTConfiguredArticleVariantList(const ZTConfiguredArticleVariantList& other) =

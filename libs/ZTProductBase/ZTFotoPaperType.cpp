@@ -1,6 +1,7 @@
 #include "ZTFotoPaperType.h"
 
 #include "ZTArticleClass.h"
+#include "ZTDiagnosticCollector.h"
 #include "ZTKeywordTableFiller.h"
 
 ZTFotoPaperType::ZTFotoPaperType(ZTFotoPaperTypeEnum theValue) : ZTEnumWrapper<ZTFotoPaperTypeEnum>(theValue)
@@ -25,8 +26,12 @@ QList<ZTFotoPaperType> ZTFotoPaperType::createFromXTCI(const QString& theText)
         else if (!result.contains(paper))
             result.append(paper);
     }
-    if (!unknown.isEmpty())
+    if (!unknown.isEmpty()) {
         qWarning() << "Unknown photo paper types ignored:" << unknown << "in" << theText;
+        ZTDiagnosticCollector::report(
+            ZTDiagnostic::Note,
+            QStringLiteral("unknown photo paper types ignored: %1").arg(unknown.join(QStringLiteral(", "))));
+    }
     return result;
 }
 

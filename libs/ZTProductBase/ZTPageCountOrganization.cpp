@@ -1,5 +1,6 @@
 #include "ZTPageCountOrganization.h"
 
+#include "ZTDiagnosticCollector.h"
 #include "ZTXMLParser.h"
 
 #include <QDomElement>
@@ -112,9 +113,13 @@ ZTPageCountOrganization ZTPageCountOrganization::read(const QDomElement& theArti
                             .arg(minPages));
         maxPages -= unreachable;
     }
-    if (!problems.isEmpty())
+    if (!problems.isEmpty()) {
         qWarning().noquote() << "page counts of article" << theArticle.attribute(QStringLiteral("id")) << ":"
                              << problems.join(QStringLiteral("; "));
+        ZTDiagnosticCollector::report(ZTDiagnostic::Note, QStringLiteral("page counts of article %1: %2")
+                                                              .arg(theArticle.attribute(QStringLiteral("id")),
+                                                                   problems.join(QStringLiteral("; "))));
+    }
 
     result.myMinPages = minPages;
     result.myMaxPages = maxPages;

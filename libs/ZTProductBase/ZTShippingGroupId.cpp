@@ -1,5 +1,6 @@
 #include "ZTShippingGroupId.h"
 
+#include "ZTDiagnosticCollector.h"
 #include "ZTXMLParser.h"
 
 #include <QDomElement>
@@ -17,9 +18,13 @@ ZTShippingGroupId::ZTShippingGroupId(const QDomElement& theElement, const QStrin
     const int id = ZTXMLParser::fastDecodeInt(text, &ok);
     if (ok)
         myId = id;
-    else
+    else {
         qWarning() << "Invalid shipping group id" << text << "in attribute" << theAttribute << "of"
                    << theElement.tagName();
+        ZTDiagnosticCollector::report(ZTDiagnostic::Warning,
+                                      QStringLiteral("invalid shipping group id \"%1\" in attribute %2 of %3")
+                                          .arg(text, theAttribute, theElement.tagName()));
+    }
 }
 
 ZTShippingGroupId ZTShippingGroupId::createFrom(const QString& theText)

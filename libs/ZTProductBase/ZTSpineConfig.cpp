@@ -1,5 +1,6 @@
 #include "ZTSpineConfig.h"
 
+#include "ZTDiagnosticCollector.h"
 #include "ZTSpineConfigImpl.h"
 #include "ZTXMLParser.h"
 
@@ -72,9 +73,13 @@ ZTSpineConfig ZTSpineConfig::createFromProductsXML(const QDomElement& theArticle
     impl->myCoverReduceSize =
         QSize(readLength(spine, QStringLiteral("cover_reduce_width"), unit, &problems).roundedPixels(),
               readLength(spine, QStringLiteral("cover_reduce_height"), unit, &problems).roundedPixels());
-    if (!problems.isEmpty())
+    if (!problems.isEmpty()) {
         qWarning().noquote() << "spine of article" << theArticle.attribute(QStringLiteral("id")) << ":"
                              << problems.join(QStringLiteral("; "));
+        ZTDiagnosticCollector::report(ZTDiagnostic::Note, QStringLiteral("spine of article %1: %2")
+                                                              .arg(theArticle.attribute(QStringLiteral("id")),
+                                                                   problems.join(QStringLiteral("; "))));
+    }
     return result;
 }
 

@@ -1,5 +1,6 @@
 #include "ZTXMLLoader.h"
 
+#include "ZTDiagnosticCollector.h"
 #include "ZTXMLDocumentGuard.h"
 
 #include <QDebug>
@@ -7,6 +8,7 @@
 #include <QFileInfo>
 #include <QXmlStreamReader>
 
+#include <optional>
 #include <vector>
 
 namespace {
@@ -24,6 +26,11 @@ bool openFile(const QFileInfo& theFileInfo, QFile& theFile)
     if (!theFile.open(QIODevice::ReadOnly)) {
         qWarning().noquote()
             << QStringLiteral("cannot load XML file %1: %2").arg(path, theFile.errorString());
+        if (ZTDiagnosticCollector::isCollecting()) {
+            const ZTDiagnosticCollector::Location location(path);
+            ZTDiagnosticCollector::report(
+                ZTDiagnostic::Error, QStringLiteral("cannot read the file: %1").arg(theFile.errorString()));
+        }
         return false;
     }
     return true;
@@ -36,7 +43,26 @@ void warnParseError(const QString& thePath, qint64 theLine, qint64 theColumn, co
                                 .arg(theLine)
                                 .arg(theColumn)
                                 .arg(theMessage);
+    if (ZTDiagnosticCollector::isCollecting()) {
+        const ZTDiagnosticCollector::Location location(thePath);
+        ZTDiagnosticCollector::reportAt(ZTDiagnostic::Error, int(theLine), int(theColumn),
+                                        QStringLiteral("XML does not parse: %1").arg(theMessage));
+    }
 }
+
+// Where the next token starts: the stream's place after the token before it, whose column
+// (counted from 0) the stream gives one character ahead, so that it is the 1-based column of the
+// next token's first character.
+struct TokenStart
+{
+    int line = 1;
+    int column = 1;
+    void before(const QXmlStreamReader& theReader)
+    {
+        line = int(theReader.lineNumber());
+        column = int(theReader.columnNumber());
+    }
+};
 
 } // namespace
 
@@ -51,9 +77,24 @@ QDomDocument ZTXMLLoader::loadDocument(const QFileInfo& theFile)
         ZTXMLDocumentGuard guard(&file);
         QXmlStreamReader reader(guard.device());
         reader.setNamespaceProcessing(false);
+        // While findings are collected, every element with an id is noted with its place, so
+        // that checks across documents can point at it after the reading.
+        const bool collecting = ZTDiagnosticCollector::isCollecting();
+        std::optional<ZTDiagnosticCollector::Location> fileLocation;
+        if (collecting)
+            fileLocation.emplace(file.fileName());
+        TokenStart start;
         while (!reader.atEnd()) {
+            if (collecting)
+                start.before(reader);
             reader.readNext();
             guard.check(reader);
+            if (collecting && reader.isStartElement() &&
+                reader.attributes().hasAttribute(QStringLiteral("id"))) {
+                const ZTDiagnosticCollector::Location here(file.fileName(), start.line, start.column);
+                ZTDiagnosticCollector::noteElementHere(
+                    reader.name().toString(), reader.attributes().value(QStringLiteral("id")).toString());
+            }
         }
         if (guard.failed(reader)) {
             warnParseError(file.fileName(), guard.errorLine(reader), guard.errorColumn(reader),
@@ -99,8 +140,18 @@ bool ZTXMLLoader::forEachSectionElement(
     int depth = 0;          // of the element last opened; the root is 1
     QDomDocument document;  // of the element being built, null between elements
     QDomNode current;       // innermost open node of that element
+    // While findings are collected: the file for the whole reading, each element's start tag while
+    // its callback runs.
+    const bool collecting = ZTDiagnosticCollector::isCollecting();
+    std::optional<ZTDiagnosticCollector::Location> fileLocation;
+    TokenStart start;
+    TokenStart elementStart;
+    if (collecting)
+        fileLocation.emplace(file.fileName());
 
     while (!reader.atEnd()) {
+        if (collecting)
+            start.before(reader);
         reader.readNext();
         if (!guard.check(reader))
             break;
@@ -125,6 +176,7 @@ bool ZTXMLLoader::forEachSectionElement(
             if (depth == 3) {
                 document = QDomDocument();
                 current = QDomNode();
+                elementStart = start;
             }
             QDomElement element = document.createElement(reader.qualifiedName().toString());
             const QXmlStreamAttributes attributes = reader.attributes();
@@ -139,6 +191,14 @@ bool ZTXMLLoader::forEachSectionElement(
             if (depth >= 3 && section >= 0) {
                 current = current.parentNode();
                 if (depth == 3) {
+                    std::optional<ZTDiagnosticCollector::Location> location;
+                    if (collecting) {
+                        location.emplace(file.fileName(), elementStart.line, elementStart.column);
+                        const QDomElement element = document.documentElement();
+                        if (element.hasAttribute(QStringLiteral("id")))
+                            ZTDiagnosticCollector::noteElementHere(element.tagName(),
+                                                                   element.attribute(QStringLiteral("id")));
+                    }
                     theCallback(section, document.documentElement());
                     document = QDomDocument();
                     current = QDomNode();

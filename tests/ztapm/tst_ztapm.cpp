@@ -336,10 +336,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("file");
         QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
 
+        // A folder may hold its own key account beside the golden files.
         const QList<QPair<QString, QString>> cases{
             {QStringLiteral("ztapm-demo"), QStringLiteral(ZT_DEMO_DATA_DIR)},
-            {QStringLiteral("ztapm-models"), QStringLiteral(ZT_TEST_DATA_DIR "/models")}};
+            {QStringLiteral("ztapm-models"), QStringLiteral(ZT_TEST_DATA_DIR "/models")},
+            {QStringLiteral("check-broken"), QStringLiteral(ZT_TEST_DATA_DIR "/check-broken")}};
         for (const auto& [folder, keyAccount] : cases) {
             QFile list(QStringLiteral(ZT_TEST_DATA_DIR "/") + folder + QStringLiteral("/commands.txt"));
             QVERIFY2(list.open(QIODevice::ReadOnly | QIODevice::Text), qPrintable(list.fileName()));
@@ -349,8 +352,12 @@ private Q_SLOTS:
                     continue;
                 QStringList arguments = line.split(QLatin1Char(' '));
                 const QString file = arguments.takeFirst();
+                // "exit:5" after the file: the status the command line ends with, 0 if not given.
+                int exitCode = 0;
+                if (arguments.value(0).startsWith(QLatin1String("exit:")))
+                    exitCode = arguments.takeFirst().mid(5).toInt();
                 QTest::newRow(qPrintable(folder + QLatin1Char('/') + file))
-                    << QDir(keyAccount).absolutePath() << folder << file << arguments;
+                    << QDir(keyAccount).absolutePath() << folder << file << arguments << exitCode;
             }
         }
     }
@@ -360,6 +367,7 @@ private Q_SLOTS:
         QFETCH(QString, folder);
         QFETCH(QString, file);
         QFETCH(QStringList, arguments);
+        QFETCH(int, exitCode);
         arguments << QStringLiteral("--data") << keyAccount;
         // Paths in a command line: $KEY_ACCOUNT and $TEST_DATA are directories, $OUTPUT a file the
         // command writes, which is then the output compared instead of stdout.
@@ -373,7 +381,7 @@ private Q_SLOTS:
                 .replace(QStringLiteral("$OUTPUT"), outputPath);
 
         const Run run = ztapm(arguments);
-        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.exitCode, exitCode);
         QByteArray written;
         if (writesFile) {
             QFile file(outputPath);

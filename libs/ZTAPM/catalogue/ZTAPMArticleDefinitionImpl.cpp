@@ -1,6 +1,7 @@
 #include "ZTAPMArticleDefinitionImpl.h"
 
 #include "ZTBasisSettings.h"
+#include "ZTDiagnosticCollector.h"
 #include "ZTDistanceUnit.h"
 #include "ZTMaterialType.h"
 #include "ZTPriceClassSet.h"
@@ -101,6 +102,10 @@ ZTAPMArticleDefinitionImpl::ZTAPMArticleDefinitionImpl(const QDomElement& theEle
         qWarning().noquote() << QStringLiteral("sizes of article %1: no length of at most 1 km: %2")
                                     .arg(myArticleId.id())
                                     .arg(badLengths.join(QStringLiteral(", ")));
+        ZTDiagnosticCollector::report(ZTDiagnostic::Note,
+                                      QStringLiteral("sizes of article %1: no length of at most 1 km: %2")
+                                          .arg(myArticleId.id())
+                                          .arg(badLengths.join(QStringLiteral(", "))));
     }
     myPageSize = ZTPageSizeData(page, unit, myArticleClass, ZTPageSizeData());
     myCoverSize = ZTPageSizeData(cover, unit, myArticleClass, myPageSize);

@@ -1,6 +1,7 @@
 #include "ZTProductRegistryAbstract.h"
 
 #include "ZTArticleId.h"
+#include "ZTDiagnosticCollector.h"
 #include "ZTProductAbstract.h"
 #include "ZTProductFactory.h"
 #include "ZTShippingGroupId.h"
@@ -43,10 +44,15 @@ void ZTProductRegistryAbstract::warnMissingSection(const QString& theSectionName
 ZTProductAbstract* ZTProductRegistryAbstract::buildAbstractProduct(const QDomElement& theElement)
 {
     ZTProductAbstract* product = ZTSingleton<ZTProductFactory>::instance()->build(theElement);
-    if (!product)
+    if (!product) {
         qWarning().noquote() << QStringLiteral("-- article unsupported: %1 - '%2'")
                                     .arg(theElement.attribute(QStringLiteral("id")),
                                          theElement.attribute(QStringLiteral("name")));
+        ZTDiagnosticCollector::report(
+            ZTDiagnostic::Warning,
+            QStringLiteral("%1 %2 dropped: no product of this kind")
+                .arg(theElement.tagName(), theElement.attribute(QStringLiteral("id"))));
+    }
     return product;
 }
 

@@ -1,5 +1,6 @@
 #include "ZTAPMDeliveryTimes.h"
 
+#include "ZTDiagnosticCollector.h"
 #include "ZTExpressTypeList.h"
 
 #include <QDebug>
@@ -31,8 +32,11 @@ void ZTAPMDeliveryTimes::update(const QDomElement& theElement)
         const ZTAPMDeliveryTime time(child);
         if (time.isValid())
             append(time);
-        else
+        else {
             qWarning() << "invalid" << childTag;
+            ZTDiagnosticCollector::report(ZTDiagnostic::Warning,
+                                          QStringLiteral("invalid %1 dropped").arg(childTag));
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 #include "ZTAPMShippingGroupImpl.h"
 
 #include "ZTArticleClass.h"
+#include "ZTDiagnosticCollector.h"
 #include "ZTXMLParser.h"
 
 #include <QDebug>
@@ -39,6 +40,8 @@ void ZTAPMShippingGroupImpl::parseShippingGroup(const QDomElement& theElement)
 {
     if (theElement.tagName() != QLatin1String("group")) {
         qWarning() << "Tag name is not group";
+        ZTDiagnosticCollector::report(ZTDiagnostic::Warning,
+                                      QStringLiteral("%1 dropped: not a group").arg(theElement.tagName()));
         return;
     }
     myId = ZTShippingGroupId(theElement);

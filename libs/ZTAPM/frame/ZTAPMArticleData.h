@@ -2,6 +2,7 @@
 #define ZTAPMARTICLEDATA_H
 
 #include "ZTArticleId.h"
+#include "ZTDiagnosticCollector.h"
 #include "ZTKeyAccountDataType.h"
 #include "ZTResourceFile.h"
 #include "ZTTemplateExport.h"
@@ -15,6 +16,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
+#include <optional>
 #include <vector>
 
 // One key-account document read into a hash from article id to a value of type T, at the first
@@ -90,6 +93,7 @@ public:
             , myLocker(&theStore.myLock)
             , myStarted(sectionCount())
             , myDeferred(sectionCount())
+            , myDeferredPlaces(sectionCount())
         {
             // A reading counts whatever it brings, so that a broken document is not read again.
             myStore.myLoaded = true;
@@ -116,10 +120,16 @@ public:
             bool due = true;
             for (size_t earlier = 0; earlier < section && due; ++earlier)
                 due = myStarted[earlier] && myDeferred[earlier].isEmpty();
-            if (due)
+            if (due) {
                 myStore.parseElement(theElement);
-            else
+            } else {
                 myDeferred[section].append(theElement);
+                // Read at the end, where the element's place would be lost.
+                if (ZTDiagnosticCollector::isCollecting())
+                    myDeferredPlaces[section].append({ZTDiagnosticCollector::Location::file(),
+                                                      ZTDiagnosticCollector::Location::line(),
+                                                      ZTDiagnosticCollector::Location::column()});
+            }
         }
 
         // theComplete: the document was read to its end.
@@ -127,9 +137,15 @@ public:
         {
             if (!theComplete)
                 return;
-            for (const QList<QDomElement>& elements : myDeferred) {
-                for (const QDomElement& element : elements)
-                    myStore.parseElement(element);
+            for (size_t section = 0; section < myDeferred.size(); ++section) {
+                const QList<QDomElement>& elements = myDeferred[section];
+                const QList<Place>& places = myDeferredPlaces[section];
+                for (qsizetype i = 0; i < elements.size(); ++i) {
+                    std::optional<ZTDiagnosticCollector::Location> location;
+                    if (i < places.size())
+                        location.emplace(places.at(i).file, places.at(i).line, places.at(i).column);
+                    myStore.parseElement(elements.at(i));
+                }
             }
             myFinished = true;
         }
@@ -142,6 +158,13 @@ public:
         QHash<ZTArticleId, T> myPrevious;
         std::vector<bool> myStarted;
         std::vector<QList<QDomElement>> myDeferred;
+        struct Place
+        {
+            QString file;
+            int line;
+            int column;
+        };
+        std::vector<QList<Place>> myDeferredPlaces; // as myDeferred, while findings are collected
         bool myFinished = false;
     };
 
@@ -180,6 +203,15 @@ public:
         if (!myLoaded)
             load();
         return valueOf(theId);
+    }
+
+    // The ids that hold a value, ascending: for checks over the whole document.
+    QList<ZTArticleId> ids() const
+    {
+        QReadLocker reader(&myLock);
+        QList<ZTArticleId> result = myData.keys();
+        std::sort(result.begin(), result.end());
+        return result;
     }
 
 protected:

@@ -1,5 +1,7 @@
 #include "ZTAPMArticleDefinitions.h"
 
+#include "ZTDiagnosticCollector.h"
+
 #include <QDebug>
 
 ZTAPMArticleDefinitions::ZTAPMArticleDefinitions() = default;
@@ -27,6 +29,11 @@ bool ZTAPMArticleDefinitions::parseElement(const QDomElement& theElement) const
     if (!definition.isValid()) {
         qWarning().noquote()
             << QStringLiteral("Definition for article %1 invalid").arg(definition.articleId().id());
+        if (ZTDiagnosticCollector::isCollecting())
+            ZTDiagnosticCollector::report(
+                ZTDiagnostic::Warning,
+                QStringLiteral("%1 dropped: it needs an id, a known class and a shipping group")
+                    .arg(theElement.tagName()));
         return false;
     }
     return insert(definition.articleId(), definition);

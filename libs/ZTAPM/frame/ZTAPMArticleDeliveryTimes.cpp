@@ -1,5 +1,7 @@
 #include "ZTAPMArticleDeliveryTimes.h"
 
+#include "ZTDiagnosticCollector.h"
+
 ZTAPMArticleDeliveryTimes::ZTAPMArticleDeliveryTimes() = default;
 ZTAPMArticleDeliveryTimes::~ZTAPMArticleDeliveryTimes() = default;
 
@@ -17,8 +19,14 @@ bool ZTAPMArticleDeliveryTimes::parseElement(const QDomElement& theElement) cons
 {
     const ZTArticleId id = ZTArticleId::fromIdAttribute(theElement);
     const ZTAPMDeliveryTimes times(theElement.firstChildElement(QStringLiteral("delivery_times")));
-    if (times.isEmpty())
+    if (times.isEmpty()) {
+        if (ZTDiagnosticCollector::isCollecting())
+            ZTDiagnosticCollector::report(
+                ZTDiagnostic::Warning,
+                QStringLiteral("delivery times of %1 %2 dropped: no valid delivery time")
+                    .arg(theElement.tagName(), theElement.attribute(QStringLiteral("id"))));
         return false;
+    }
     return insert(id, times);
 }
 

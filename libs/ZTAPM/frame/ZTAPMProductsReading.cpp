@@ -1,6 +1,7 @@
 #include "ZTAPMProductsReading.h"
 
 #include "ZTAPMArticleDefinitions.h"
+#include "ZTDiagnosticCollector.h"
 #include "ZTProductRegistryAbstract.h"
 #include "ZTXMLLoader.h"
 
@@ -18,6 +19,9 @@ ZTAPMProductsReading::ZTAPMProductsReading(const QStringList& theKeyWords) : myK
 bool ZTAPMProductsReading::read(const QFileInfo& theFile, const ZTAPMArticleDefinitions* theDefinitions)
 {
     mySkeletons.assign(size_t(myKeyWords.size()), {});
+    const bool collecting = ZTDiagnosticCollector::isCollecting();
+    myPositions.assign(collecting ? size_t(myKeyWords.size()) : 0, {});
+    myFile = theFile.filePath();
     QStringList sectionNames = mySectionNames;
     std::vector<qsizetype> storeSections; // the store's section of each section read, or -1
     std::optional<ZTAPMArticleDefinitions::Filling> filling;
@@ -38,8 +42,12 @@ bool ZTAPMProductsReading::read(const QFileInfo& theFile, const ZTAPMArticleDefi
         [&](qsizetype theSection, const QDomElement& theElement) {
             if (filling && storeSections[size_t(theSection)] >= 0)
                 filling->add(storeSections[size_t(theSection)], theElement);
-            if (theSection < registrySections && theElement.tagName() == myKeyWords.at(theSection))
+            if (theSection < registrySections && theElement.tagName() == myKeyWords.at(theSection)) {
                 mySkeletons[size_t(theSection)].emplace_back(theElement);
+                if (collecting)
+                    myPositions[size_t(theSection)].emplace_back(ZTDiagnosticCollector::Location::line(),
+                                                                 ZTDiagnosticCollector::Location::column());
+            }
         },
         &found);
     if (filling)
@@ -62,7 +70,14 @@ void ZTAPMProductsReading::readInto(ZTProductRegistryAbstract* theRegistry) cons
             ZTProductRegistryAbstract::warnMissingSection(keyWord + QLatin1Char('s'));
             continue;
         }
-        for (const ZTProductElementSkeleton& skeleton : mySkeletons[size_t(section)])
-            theRegistry->readElement(skeleton.toElement(scratch));
+        const std::vector<ZTProductElementSkeleton>& skeletons = mySkeletons[size_t(section)];
+        const bool located = size_t(section) < myPositions.size();
+        for (size_t i = 0; i < skeletons.size(); ++i) {
+            std::optional<ZTDiagnosticCollector::Location> location;
+            if (located)
+                location.emplace(myFile, myPositions[size_t(section)][i].first,
+                                 myPositions[size_t(section)][i].second);
+            theRegistry->readElement(skeletons[i].toElement(scratch));
+        }
     }
 }

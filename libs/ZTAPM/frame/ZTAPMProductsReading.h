@@ -5,6 +5,8 @@
 #include "ztapm_export.h"
 
 #include <QList>
+#include <QPair>
+#include <QString>
 #include <QStringList>
 
 #include <vector>
@@ -39,6 +41,10 @@ private:
     QStringList mySectionNames;
     QList<bool> myFoundSections;
     std::vector<std::vector<ZTProductElementSkeleton>> mySkeletons; // by keyword
+    // While findings are collected: the file, and the line and column of each skeleton's element,
+    // so that the registries' findings point into the document.
+    QString myFile;
+    std::vector<std::vector<QPair<int, int>>> myPositions; // by keyword, as mySkeletons
 };
 
 #endif // ZTAPMPRODUCTSREADING_H

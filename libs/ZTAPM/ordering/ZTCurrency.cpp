@@ -1,5 +1,6 @@
 #include "ZTCurrency.h"
 
+#include "ZTDiagnosticCollector.h"
 #include "ZTXMLParser.h"
 
 #include <QDebug>
@@ -20,8 +21,10 @@ ZTCurrency::ZTCurrency(const QDomElement& theElement)
     myDecimalPlaces = ZTXMLParser::intText(theElement, QStringLiteral("decimalplaces"), myDecimalPlaces);
     mySymbol = ZTXMLParser::text(theElement, QStringLiteral("symbol"), mySymbol);
     // Kept all the same: the ordering details cannot name it, but nothing else breaks.
-    if (myIsoCode.isEmpty())
+    if (myIsoCode.isEmpty()) {
         qWarning() << "found currency without isocode";
+        ZTDiagnosticCollector::report(ZTDiagnostic::Warning, QStringLiteral("currency without isocode"));
+    }
 }
 
 QString ZTCurrency::symbolHTML() const

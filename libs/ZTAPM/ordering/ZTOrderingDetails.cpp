@@ -2,6 +2,7 @@
 
 #include "ZTAPMSettings.h"
 #include "ZTAPMShippingGroupManager.h"
+#include "ZTDiagnosticCollector.h"
 #include "ZTKeyAccount.h"
 #include "ZTKeyAccountFileTimeStampManager.h"
 #include "ZTPlatformIndependent.h"
@@ -41,8 +42,10 @@ void ZTOrderingDetails::initPaymentTypes()
 
 void ZTOrderingDetails::update()
 {
-    const QDomElement root = ZTXMLLoader::loadDocumentElement(
-        ZTResourceFile(ZTResourceFileTypeOrderingDetails).fileInfo(false, QString()));
+    const QFileInfo file = ZTResourceFile(ZTResourceFileTypeOrderingDetails).fileInfo(false, QString());
+    const QDomElement root = ZTXMLLoader::loadDocumentElement(file);
+    // Findings of the reading name the document.
+    const ZTDiagnosticCollector::Location location(file.filePath());
 
     myRequiresDOI = ZTXMLParser::boolText(root, QStringLiteral("doi"), false);
     myRequiresAddressCheck = ZTXMLParser::boolText(root, QStringLiteral("address_check"), false);
@@ -144,8 +147,11 @@ void ZTOrderingDetails::updateAvailableCurrencies(const QDomElement& theElement)
             mySecondaryCurrency = ZTXMLParser::attribute(element, QStringLiteral("id"));
             bool ok = false;
             const double number = factor.toDouble(&ok);
-            if (!ok)
+            if (!ok) {
                 qWarning().noquote() << QStringLiteral("Fehlerhafter Umrechnungsfaktor %1").arg(factor);
+                ZTDiagnosticCollector::report(
+                    ZTDiagnostic::Warning, QStringLiteral("currency factor \"%1\" is no number").arg(factor));
+            }
             // The document gives what one unit of the secondary currency costs; sums are
             // multiplied by the reciprocal. A broken factor gives 0 and so an infinite one.
             mySecondaryCurrencyFactor = 1.0 / (ok ? number : 0.0);

@@ -3,6 +3,7 @@
 #include "ZTAPMArticlePriceInfo.h"
 
 #include "ZTAPMDataBase.h"
+#include "ZTDiagnosticCollector.h"
 #include "ZTDiscountLimitList.h"
 #include "ZTXMLParser.h"
 
@@ -19,11 +20,38 @@ const QString PRICE_NODE = QStringLiteral("price");
 bool readPriceRow(const QDomElement& thePriceElement, ZTAPMPriceKey* theKey, ZTAPMPriceValue* theValue)
 {
     const ZTAPMPriceValue value(thePriceElement);
-    if (value.discountModel().isNull())
+    if (value.discountModel().isNull()) {
+        if (ZTDiagnosticCollector::isCollecting())
+            ZTDiagnosticCollector::report(
+                ZTDiagnostic::Warning,
+                QStringLiteral("price row dropped: type \"%1\" is no discount model")
+                    .arg(thePriceElement.attribute(QStringLiteral("type"))));
         return false;
+    }
     *theKey = ZTAPMPriceKey(ZTOrderSource(thePriceElement), value.discountLevel(), value.discountModel());
     *theValue = value;
     return true;
+}
+
+// Next to a photo package, the rows of its order source are read as photo package rows: one
+// note per source that has "y" rows, in the sources' order.
+void reportConvertedRows(const ZTAPMPriceValues& theTable)
+{
+    QList<ZTOrderSource> sources;
+    for (const ZTAPMPriceKey& key : theTable.keys()) {
+        if (key.discountModel() == ZTDiscountModelFotoPackageBulk && !sources.contains(key.orderSource()) &&
+            theTable.containsDiscountModel(key.orderSource(), ZTDiscountModelFotoPackage))
+            sources.append(key.orderSource());
+    }
+    std::sort(sources.begin(), sources.end(),
+              [](const ZTOrderSource& theFirst, const ZTOrderSource& theSecond) {
+                  return theFirst.toLogString() < theSecond.toLogString();
+              });
+    for (const ZTOrderSource& source : std::as_const(sources))
+        ZTDiagnosticCollector::report(
+            ZTDiagnostic::Note,
+            QStringLiteral("\"y\" rows of order source %1 are read as \"w\": the source has a photo package")
+                .arg(source.toLogString()));
 }
 
 bool byModelValue(const ZTDiscountModel& theFirst, const ZTDiscountModel& theSecond)
@@ -73,6 +101,8 @@ void ZTAPMArticlePriceInfo::update(const QDomElement& theArticleNode)
     ZTAPMPriceValues table;
     table.unite(parsePricesGroup(theArticleNode.firstChildElement(QStringLiteral("base_prices"))));
     table.unite(parsePricesGroup(theArticleNode.firstChildElement(QStringLiteral("discount_prices"))));
+    if (ZTDiagnosticCollector::isCollecting())
+        reportConvertedRows(table);
     // Upper bounds last, so that they are computed within the converted photo package ladder.
     myPriceValues = table.fixedDiscountModelW().fixedUpperLimits();
     myDiscountModels = myPriceValues.discountModels();

@@ -1,0 +1,221 @@
+#include "ZTAPMCatalogueCheck.h"
+
+#include "ZTAPMArticlePriceInfo.h"
+#include "ZTAPMConfig.h"
+#include "ZTAPMDataBase.h"
+#include "ZTAPMObjects.h"
+#include "ZTAPMShippingGroupManager.h"
+#include "ZTArticleIdSet.h"
+#include "ZTCurrencyConfig.h"
+#include "ZTOrderSource.h"
+#include "ZTOrderingDetails.h"
+#include "ZTProductAbstract.h"
+#include "ZTProductRegistry.h"
+#include "ZTResourceFile.h"
+
+#include <QFileInfo>
+#include <QMap>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+QString filePath(const ZTResourceFile& theFile)
+{
+    return theFile.fileInfo(false, QString()).filePath();
+}
+
+const QStringList productTags{QStringLiteral("article"), QStringLiteral("add_on")};
+
+bool byId(const ZTProductAbstract* theFirst, const ZTProductAbstract* theSecond)
+{
+    return theFirst->articleId() < theSecond->articleId();
+}
+
+} // namespace
+
+ZTAPMCatalogueCheck::ZTAPMCatalogueCheck()
+    : myProductsFile(filePath(ZTResourceFile(ZTResourceFileTypeProducts)))
+    , myPricesFile(filePath(ZTResourceFile(ZTKeyAccountDataType(ZTKeyAccountDataTypePrices))))
+    , myDeliveryTimesFile(filePath(ZTResourceFile(ZTKeyAccountDataType(ZTKeyAccountDataTypeDeliveryTimes))))
+    , myOrderingDetailsFile(filePath(ZTResourceFile(ZTResourceFileTypeOrderingDetails)))
+{
+    myCollector.install();
+    // Made here, so that the object lives in the calling thread, not in the reading's.
+    const ZTAPMObjects* objects = ZTSingleton<ZTAPMObjects>::instance();
+    myReading = std::thread([objects] {
+        objects->articlePrices().load();
+        objects->articleDeliveryTimes().load();
+    });
+}
+
+ZTAPMCatalogueCheck::~ZTAPMCatalogueCheck()
+{
+    if (myReading.joinable())
+        myReading.join();
+    myCollector.uninstall();
+}
+
+QList<ZTDiagnostic> ZTAPMCatalogueCheck::run()
+{
+    // Nothing happens here for singletons that the start-up has made already.
+    ZTSingleton<ZTAPMConfig>::instance();
+    ZTSingleton<ZTCurrencyConfig>::instance();
+    ZTSingleton<ZTOrderingDetails>::instance();
+    ZTSingleton<ZTAPMDataBase>::instance();
+    if (myReading.joinable())
+        myReading.join();
+
+    // A document that is missing or does not parse would make every element of the others look
+    // orphaned; the readers report nothing else as an error.
+    const ZTAPMObjects* objects = ZTSingleton<ZTAPMObjects>::instance();
+    if (wasRead(myProductsFile)) {
+        if (wasRead(myPricesFile)) {
+            checkArticles();
+            checkStore(objects->articlePrices().ids(), myPricesFile, ZTAPMArticlePriceInfo::xtciNodeNames(),
+                       QStringLiteral("prices"));
+        }
+        if (wasRead(myDeliveryTimesFile))
+            checkStore(objects->articleDeliveryTimes().ids(), myDeliveryTimesFile, productTags,
+                       QStringLiteral("delivery times"));
+        if (wasRead(myOrderingDetailsFile))
+            checkShippingGroups();
+    }
+    if (wasRead(myOrderingDetailsFile))
+        checkPayments();
+    return myCollector.diagnostics();
+}
+
+void ZTAPMCatalogueCheck::checkArticles()
+{
+    const ZTAPMDataBase* dataBase = ZTSingleton<ZTAPMDataBase>::instance();
+    const ZTAPMObjects* objects = ZTSingleton<ZTAPMObjects>::instance();
+    ZTProductList products = dataBase->products()->productList();
+    products += dataBase->products()->allAddOns();
+    std::sort(products.begin(), products.end(), byId);
+    products.erase(std::unique(products.begin(), products.end()), products.end());
+    const QList<ZTOrderSource> sources = ZTOrderSource::all();
+    for (const ZTProductAbstract* product : std::as_const(products)) {
+        if (product->isDeprecated())
+            continue;
+        const ZTAPMArticlePriceInfo prices = objects->priceInfo(product->articleId());
+        const QList<ZTAPMPriceKey> keys = prices.priceValues().keys();
+        const bool priced = std::any_of(keys.cbegin(), keys.cend(), [&sources](const ZTAPMPriceKey& theKey) {
+            return sources.contains(theKey.orderSource());
+        });
+        const QString id = QString::number(product->articleId().id());
+        if (!priced)
+            add(ZTDiagnostic::Error, myProductsFile, productTags, id,
+                QStringLiteral("article %1 has no price for any order source").arg(id));
+
+        const ZTArticleIdSet linked = objects->articleDefinition(product->articleId()).linkedArticleIds();
+        QList<ZTArticleId> linkedIds(linked.cbegin(), linked.cend());
+        std::sort(linkedIds.begin(), linkedIds.end());
+        for (const ZTArticleId& linkedId : std::as_const(linkedIds)) {
+            if (!dataBase->productAbstract(linkedId))
+                add(ZTDiagnostic::Warning, myProductsFile, productTags, id,
+                    QStringLiteral("%1 %2 is linked to article %3, which the products document does not have")
+                        .arg(product->articleClass().matches(ZTArticleClassAllAddOns)
+                                 ? QStringLiteral("add-on")
+                                 : QStringLiteral("article"),
+                             id)
+                        .arg(linkedId.id()));
+        }
+    }
+}
+
+void ZTAPMCatalogueCheck::checkStore(const QList<ZTArticleId>& theIds, const QString& theFile,
+                                     const QStringList& theTags, const QString& theWhat)
+{
+    const ZTAPMDataBase* dataBase = ZTSingleton<ZTAPMDataBase>::instance();
+    for (const ZTArticleId& id : theIds) {
+        if (!dataBase->productAbstract(id))
+            add(ZTDiagnostic::Warning, theFile, theTags, QString::number(id.id()),
+                QStringLiteral("%1 for article %2, which the products document does not have")
+                    .arg(theWhat)
+                    .arg(id.id()));
+    }
+}
+
+void ZTAPMCatalogueCheck::checkPayments()
+{
+    const ZTOrderingDetails* details = ZTSingleton<ZTOrderingDetails>::instance();
+    QSet<int> borne;
+    for (const ZTPaymentClass& payClass : details->payClasses()) {
+        for (const ZTPaymentMethod& method : *details->paymentMethods(payClass))
+            borne.insert(method.paymentId().id());
+    }
+    QSet<int> reported;
+    for (const ZTOrderSource& source : ZTOrderSource::all()) {
+        for (const ZTPaymentId& id : details->permittedPayments(source)) {
+            if (borne.contains(id.id()) || reported.contains(id.id()))
+                continue;
+            reported.insert(id.id());
+            add(ZTDiagnostic::Warning, myOrderingDetailsFile, {QStringLiteral("permitted_pay_method")},
+                QString::number(id.id()),
+                QStringLiteral("permitted payment %1 (order source %2): no payment method has this id")
+                    .arg(id.id())
+                    .arg(source.toLogString()));
+        }
+    }
+}
+
+void ZTAPMCatalogueCheck::checkShippingGroups()
+{
+    const ZTAPMDataBase* dataBase = ZTSingleton<ZTAPMDataBase>::instance();
+    // The first article of each group by id stands for the group's products.
+    QMap<int, const ZTProductAbstract*> firstOfGroup;
+    ZTProductList products = dataBase->products()->productList();
+    std::sort(products.begin(), products.end(), byId);
+    for (const ZTProductAbstract* product : std::as_const(products)) {
+        const ZTShippingGroupId group = product->shippingGroupId();
+        if (!product->isDeprecated() && group.isValid() && !firstOfGroup.contains(group.id()))
+            firstOfGroup.insert(group.id(), product);
+    }
+    for (auto it = firstOfGroup.cbegin(); it != firstOfGroup.cend(); ++it) {
+        if (!dataBase->transferProduct(ZTShippingGroupId(it.key()))) {
+            const QString id = QString::number(it.value()->articleId().id());
+            add(ZTDiagnostic::Error, myProductsFile, productTags, id,
+                QStringLiteral("shipping group %1 has products (article %2 is one) but no transfer article")
+                    .arg(it.key())
+                    .arg(id));
+        }
+    }
+
+    QList<ZTAPMShippingGroup> groups = ZTSingleton<ZTAPMShippingGroupManager>::instance()->shippingGroups();
+    std::sort(groups.begin(), groups.end(),
+              [](const ZTAPMShippingGroup& theFirst, const ZTAPMShippingGroup& theSecond) {
+                  return theFirst.id() < theSecond.id();
+              });
+    for (const ZTAPMShippingGroup& group : std::as_const(groups)) {
+        if (!group.name().isEmpty() && !firstOfGroup.contains(group.id().id()))
+            add(ZTDiagnostic::Note, myOrderingDetailsFile, {QStringLiteral("group")},
+                QString::number(group.id().id()),
+                QStringLiteral("shipping group %1 \"%2\" has no products")
+                    .arg(group.id().id())
+                    .arg(group.name()));
+    }
+}
+
+void ZTAPMCatalogueCheck::add(ZTDiagnostic::Severity theSeverity, const QString& theFile,
+                              const QStringList& theTags, const QString& theId, const QString& theMessage)
+{
+    int line = 0;
+    int column = 0;
+    for (const QString& tag : theTags) {
+        if (myCollector.elementPosition(theFile, tag, theId, &line, &column))
+            break;
+    }
+    myCollector.add(ZTDiagnostic(theSeverity, theFile, line, column, theMessage));
+}
+
+bool ZTAPMCatalogueCheck::wasRead(const QString& theFile) const
+{
+    if (!QFileInfo(theFile).isFile())
+        return false;
+    const QList<ZTDiagnostic> found = myCollector.diagnostics();
+    return std::none_of(found.cbegin(), found.cend(), [&theFile](const ZTDiagnostic& theFinding) {
+        return theFinding.file() == theFile && theFinding.severity() == ZTDiagnostic::Error;
+    });
+}

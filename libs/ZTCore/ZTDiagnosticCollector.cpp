@@ -1,0 +1,139 @@
+#include "ZTDiagnosticCollector.h"
+
+#include <QMutexLocker>
+
+#include <algorithm>
+#include <atomic>
+
+namespace {
+
+std::atomic<ZTDiagnosticCollector*> theInstalled{nullptr};
+
+struct CurrentLocation
+{
+    QString file;
+    int line = 0;
+    int column = 0;
+};
+
+thread_local CurrentLocation theCurrent;
+
+QString elementKey(const QString& theFile, const QString& theTag, const QString& theId)
+{
+    return theFile + QLatin1Char('\n') + theTag + QLatin1Char('\n') + theId;
+}
+
+} // namespace
+
+ZTDiagnosticCollector::ZTDiagnosticCollector() = default;
+
+ZTDiagnosticCollector::~ZTDiagnosticCollector()
+{
+    uninstall();
+}
+
+void ZTDiagnosticCollector::install()
+{
+    theInstalled.store(this);
+}
+
+void ZTDiagnosticCollector::uninstall()
+{
+    ZTDiagnosticCollector* expected = this;
+    theInstalled.compare_exchange_strong(expected, nullptr);
+}
+
+void ZTDiagnosticCollector::add(const ZTDiagnostic& theDiagnostic)
+{
+    QMutexLocker locker(&myMutex);
+    myDiagnostics.append(theDiagnostic);
+}
+
+QList<ZTDiagnostic> ZTDiagnosticCollector::diagnostics() const
+{
+    QList<ZTDiagnostic> result;
+    {
+        QMutexLocker locker(&myMutex);
+        result = myDiagnostics;
+    }
+    std::sort(result.begin(), result.end());
+    result.erase(std::unique(result.begin(), result.end()), result.end());
+    return result;
+}
+
+void ZTDiagnosticCollector::noteElement(const QString& theFile, const QString& theTag, const QString& theId,
+                                        int theLine, int theColumn)
+{
+    const QString key = elementKey(theFile, theTag, theId);
+    QMutexLocker locker(&myMutex);
+    if (!myElements.contains(key))
+        myElements.insert(key, qMakePair(theLine, theColumn));
+}
+
+bool ZTDiagnosticCollector::elementPosition(const QString& theFile, const QString& theTag,
+                                            const QString& theId, int* theLine, int* theColumn) const
+{
+    QMutexLocker locker(&myMutex);
+    const auto found = myElements.constFind(elementKey(theFile, theTag, theId));
+    if (found == myElements.cend())
+        return false;
+    *theLine = found->first;
+    *theColumn = found->second;
+    return true;
+}
+
+bool ZTDiagnosticCollector::isCollecting()
+{
+    return theInstalled.load(std::memory_order_relaxed) != nullptr;
+}
+
+void ZTDiagnosticCollector::report(ZTDiagnostic::Severity theSeverity, const QString& theMessage)
+{
+    reportAt(theSeverity, 0, 0, theMessage);
+}
+
+void ZTDiagnosticCollector::reportAt(ZTDiagnostic::Severity theSeverity, int theLine, int theColumn,
+                                     const QString& theMessage)
+{
+    if (ZTDiagnosticCollector* collector = theInstalled.load()) {
+        const bool here = theLine < 1;
+        collector->add(ZTDiagnostic(theSeverity, theCurrent.file, here ? theCurrent.line : theLine,
+                                    here ? theCurrent.column : theColumn, theMessage));
+    }
+}
+
+void ZTDiagnosticCollector::noteElementHere(const QString& theTag, const QString& theId)
+{
+    if (ZTDiagnosticCollector* collector = theInstalled.load())
+        collector->noteElement(theCurrent.file, theTag, theId, theCurrent.line, theCurrent.column);
+}
+
+ZTDiagnosticCollector::Location::Location(const QString& theFile, int theLine, int theColumn)
+    : myPreviousFile(theCurrent.file), myPreviousLine(theCurrent.line), myPreviousColumn(theCurrent.column)
+{
+    theCurrent.file = theFile;
+    theCurrent.line = theLine;
+    theCurrent.column = theColumn;
+}
+
+ZTDiagnosticCollector::Location::~Location()
+{
+    theCurrent.file = myPreviousFile;
+    theCurrent.line = myPreviousLine;
+    theCurrent.column = myPreviousColumn;
+}
+
+QString ZTDiagnosticCollector::Location::file()
+{
+    return theCurrent.file;
+}
+
+int ZTDiagnosticCollector::Location::line()
+{
+    return theCurrent.line;
+}
+
+int ZTDiagnosticCollector::Location::column()
+{
+    return theCurrent.column;
+}
