@@ -152,6 +152,55 @@
     </message>
 </context>
 <context>
+    <name>ZTAPMCheckCommand</name>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>%1 error</source>
+        <translation>%1 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 warning</source>
+        <translation>%1 Warnung</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 Warnungen</translation>
+    </message>
+    <message>
+        <source>%1 note</source>
+        <translation>%1 Hinweis</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>%1 Hinweise</translation>
+    </message>
+    <message>
+        <source>check the key account&apos;s documents: each problem with file, line,
+column and severity; exit status 5 if one is an error</source>
+        <translation>die Dokumente des Key Accounts prüfen: jedes Problem mit Datei, Zeile,
+Spalte und Schweregrad; Exit-Status 5, wenn eines ein Fehler ist</translation>
+    </message>
+    <message>
+        <source>%1: %2: %3</source>
+        <translation>%1: %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>ZTAPMCommand</name>
     <message>
         <source>%1 (%2, default)</source>
@@ -243,10 +292,10 @@
     <message>
         <source>Order sources (--source): %1.
 Exit status: 0 done, 2 usage error, 3 data directory, file or article not found,
-4 the file is no valid order calculation.</source>
+4 the file is no valid order calculation, 5 check found errors.</source>
         <translation>Bestellwege (--source): %1.
 Exit-Status: 0 erledigt, 2 Aufruffehler, 3 Datenverzeichnis, Datei oder Artikel nicht gefunden,
-4 die Datei ist keine gültige Bestellberechnung.</translation>
+4 die Datei ist keine gültige Bestellberechnung, 5 check hat Fehler gefunden.</translation>
     </message>
 </context>
 <context>
