@@ -277,43 +277,52 @@ private Q_SLOTS:
         QCOMPARE((*photoPack)[QStringLiteral("package")].toString(), photoPackText);
     }
 
-    // result in German: its lines, and the keywords of JSON where the text shows them, are
-    // translated; JSON is the same as in English.
-    void resultInGerman_data()
+    // The command's texts in German: whole lines, with the keywords of JSON translated where the
+    // text shows them (the readers' findings stay in the log's language); the JSON and the exit
+    // status are the same as in English.
+    void commandsInGerman_data()
     {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
         QTest::addColumn<QString>("line");
-        QTest::newRow("head") << "Bestellberechnung %1, Bestellweg FM, Zahlart 3";
-        QTest::newRow("fee without article") << "  Expressgebühr: keine";
-        QTest::newRow("fee with article") << "  Zahlungsgebühr (Artikel 9202): 1,50 €";
-        QTest::newRow("tax") << "  Umsatzsteuer: 3,12 €";
-        QTest::newRow("shipping dates")
-            << "  Versandtermine: Standard 2026-12-07 bis 2026-12-09, Express 2026-12-03";
-        QTest::newRow("express types") << "Expressarten aller Rechnungen: Standard";
-        QTest::newRow("comparison")
-            << "Lokaler Kostenvoranschlag: 199,76 €; 21 Zeile(n) verglichen, 2 Unterschied(e):";
+        const QStringList result{
+            QStringLiteral("result"),     QStringLiteral(ZT_TEST_DATA_DIR "/result-changed/result.xml"),
+            QStringLiteral("--shipment"), QStringLiteral("2"),
+            QStringLiteral("--basket"),   QStringLiteral("1001:3"),
+            QStringLiteral("7003:4"),     QStringLiteral("3002:120"),
+            QStringLiteral("4001:1"),     QStringLiteral("5003:1")};
+        QTest::newRow("result head") << result << 0
+                                     << "Bestellberechnung " ZT_TEST_DATA_DIR
+                                        "/result-changed/result.xml, Bestellweg FM, Zahlart 3";
+        QTest::newRow("result fee without article") << result << 0 << "  Expressgebühr: keine";
+        QTest::newRow("result fee with article") << result << 0 << "  Zahlungsgebühr (Artikel 9202): 1,50 €";
+        QTest::newRow("result shipping dates")
+            << result << 0 << "  Versandtermine: Standard 2026-12-07 bis 2026-12-09, Express 2026-12-03";
+        QTest::newRow("result express types") << result << 0 << "Expressarten aller Rechnungen: Standard";
+        QTest::newRow("result difference") << result << 0
+                                           << "  Gruppe 16 Position     3002   Abzug 10x15                   "
+                                              "           lokal 18,00 € (b:2)          "
+                                              "Server 19,20 € (b:2)";
+        const QStringList check{QStringLiteral("check"), QStringLiteral("--data"),
+                                QStringLiteral(ZT_TEST_DATA_DIR "/check-broken")};
+        QTest::newRow("check finding") << check << 5
+                                       << "deliverytimes.xml:10:5: Warnung: delivery times for article 8889, "
+                                          "which the products document does "
+                                          "not have";
+        QTest::newRow("check counts") << check << 5 << "3 Fehler, 6 Warnungen, 4 Hinweise";
     }
-    void resultInGerman()
+    void commandsInGerman()
     {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, exitCode);
         QFETCH(QString, line);
-        const QString file = QStringLiteral(ZT_TEST_DATA_DIR "/result-changed/result.xml");
-        const QStringList arguments{QStringLiteral("result"),     file,
-                                    QStringLiteral("--shipment"), QStringLiteral("2"),
-                                    QStringLiteral("--basket"),   QStringLiteral("1001:3"),
-                                    QStringLiteral("7003:4"),     QStringLiteral("3002:120"),
-                                    QStringLiteral("4001:1"),     QStringLiteral("5003:1")};
-        const Run german = ztapm(QStringList{QStringLiteral("--lang"), QStringLiteral("de")} + arguments);
-        QCOMPARE(german.exitCode, 0);
-        const QStringList lines = QString::fromUtf8(german.out).split(QLatin1Char('\n'));
-        QVERIFY2(lines.contains(line.arg(file)), german.out.constData());
-        QVERIFY2(std::any_of(lines.begin(), lines.end(),
-                             [](const QString& theLine) {
-                                 return theLine.startsWith(QLatin1String("  Gruppe 16 Position "));
-                             }),
-                 german.out.constData());
-        QCOMPARE(ztapm(QStringList{QStringLiteral("--lang"), QStringLiteral("de"), QStringLiteral("--json")} +
-                       arguments)
-                     .json(),
-                 ztapm(arguments << QStringLiteral("--json")).json());
+        const QStringList german{QStringLiteral("--lang"), QStringLiteral("de")};
+        const Run text = ztapm(german + arguments);
+        QCOMPARE(text.exitCode, exitCode);
+        QVERIFY2(QString::fromUtf8(text.out).split(QLatin1Char('\n')).contains(line), text.out.constData());
+        const Run json = ztapm(german + arguments << QStringLiteral("--json"));
+        QCOMPARE(json.exitCode, exitCode);
+        QCOMPARE(json.json(), ztapm(arguments << QStringLiteral("--json")).json());
     }
 
     void demoMillionPiecesHaveNoPrice()
