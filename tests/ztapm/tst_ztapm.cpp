@@ -319,7 +319,9 @@ private Q_SLOTS:
         const QStringList german{QStringLiteral("--lang"), QStringLiteral("de")};
         const Run text = ztapm(german + arguments);
         QCOMPARE(text.exitCode, exitCode);
-        QVERIFY2(QString::fromUtf8(text.out).split(QLatin1Char('\n')).contains(line), text.out.constData());
+        // Amounts keep their no-break space before the currency; the rows write a plain one.
+        const QString out = QString::fromUtf8(text.out).replace(QChar(0xa0), QLatin1Char(' '));
+        QVERIFY2(out.split(QLatin1Char('\n')).contains(line), text.out.constData());
         const Run json = ztapm(german + arguments << QStringLiteral("--json"));
         QCOMPARE(json.exitCode, exitCode);
         QCOMPARE(json.json(), ztapm(arguments << QStringLiteral("--json")).json());
