@@ -152,6 +152,55 @@
     </message>
 </context>
 <context>
+    <name>ZTAPMCheckCommand</name>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>%1 error</source>
+        <translation>%1 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 warning</source>
+        <translation>%1 Warnung</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 Warnungen</translation>
+    </message>
+    <message>
+        <source>%1 note</source>
+        <translation>%1 Hinweis</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>%1 Hinweise</translation>
+    </message>
+    <message>
+        <source>check the key account&apos;s documents: each problem with file, line,
+column and severity; exit status 5 if one is an error</source>
+        <translation>die Dokumente des Key Accounts prüfen: jedes Problem mit Datei, Zeile,
+Spalte und Schweregrad; Exit-Status 5, wenn eines ein Fehler ist</translation>
+    </message>
+    <message>
+        <source>%1: %2: %3</source>
+        <translation>%1: %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>ZTAPMCommand</name>
     <message>
         <source>%1 (%2, default)</source>
@@ -225,12 +274,6 @@
         <translation> (Standard)</translation>
     </message>
     <message>
-        <source>Order sources (--source): %1.
-Exit status: 0 done, 2 usage error, 3 data directory or article not found.</source>
-        <translation>Bestellwege (--source): %1.
-Exit-Status: 0 erledigt, 2 Aufruffehler, 3 Datenverzeichnis oder Artikel nicht gefunden.</translation>
-    </message>
-    <message>
         <source>%1 goes with the commands %2</source>
         <translation>%1 gehört zu den Befehlen %2</translation>
     </message>
@@ -245,6 +288,108 @@ Exit-Status: 0 erledigt, 2 Aufruffehler, 3 Datenverzeichnis oder Artikel nicht g
     <message>
         <source>and</source>
         <translation>und</translation>
+    </message>
+    <message>
+        <source>Order sources (--source): %1.
+Exit status: 0 done, 2 usage error, 3 data directory, file or article not found,
+4 the file is no valid order calculation, 5 check found errors.</source>
+        <translation>Bestellwege (--source): %1.
+Exit-Status: 0 erledigt, 2 Aufruffehler, 3 Datenverzeichnis, Datei oder Artikel nicht gefunden,
+4 die Datei ist keine gültige Bestellberechnung, 5 check hat Fehler gefunden.</translation>
+    </message>
+</context>
+<context>
+    <name>ZTAPMLadderChart</name>
+    <message>
+        <source>no prices</source>
+        <translation>keine Preise</translation>
+    </message>
+    <message>
+        <source>quantity (pieces, logarithmic scale)</source>
+        <translation>Menge (Stück, logarithmische Skala)</translation>
+    </message>
+    <message>
+        <source>quantity (pieces)</source>
+        <translation>Menge (Stück)</translation>
+    </message>
+    <message>
+        <source>unit price</source>
+        <translation>Stückpreis</translation>
+    </message>
+    <message>
+        <source>regular price</source>
+        <translation>regulärer Preis</translation>
+    </message>
+    <message>
+        <source>offer price</source>
+        <translation>Angebotspreis</translation>
+    </message>
+</context>
+<context>
+    <name>ZTAPMLadderCommand</name>
+    <message>
+        <source>a chart of the unit price by quantity, one line per order source
+--svg FILE | --png FILE [--source S]</source>
+        <translation>ein Diagramm des Stückpreises nach Menge, eine Linie je Bestellweg
+--svg FILE | --png FILE [--source S]</translation>
+    </message>
+    <message>
+        <source>price, ladder: the order source (default %1; ladder: all).</source>
+        <translation>price, ladder: der Bestellweg (Standard %1; ladder: alle).</translation>
+    </message>
+    <message>
+        <source>ladder: write the chart as SVG.</source>
+        <translation>ladder: das Diagramm als SVG schreiben.</translation>
+    </message>
+    <message>
+        <source>ladder: write the chart as PNG.</source>
+        <translation>ladder: das Diagramm als PNG schreiben.</translation>
+    </message>
+    <message>
+        <source>usage: ladder ID --svg FILE | --png FILE [--source S]</source>
+        <translation>Aufruf: ladder ID --svg FILE | --png FILE [--source S]</translation>
+    </message>
+    <message>
+        <source>unknown order source &apos;%1&apos;; use %2</source>
+        <translation>unbekannter Bestellweg &apos;%1&apos;; möglich sind %2</translation>
+    </message>
+    <message>
+        <source>or</source>
+        <translation>oder</translation>
+    </message>
+    <message>
+        <source>Article %1 %2</source>
+        <translation>Artikel %1 %2</translation>
+    </message>
+    <message>
+        <source>Price ladder of article %1</source>
+        <translation>Preisstaffel von Artikel %1</translation>
+    </message>
+    <message>
+        <source>Unit price by quantity, one line per order source</source>
+        <translation>Stückpreis nach Menge, eine Linie je Bestellweg</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2</source>
+        <translation>&apos;%1&apos; kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Article %1: %2, quantities up to %3 (%4 scale), prices up to %5, written to %6
+</source>
+        <translation>Artikel %1: %2, Mengen bis %3 (Skala: %4), Preise bis %5, geschrieben nach %6
+</translation>
+    </message>
+    <message>
+        <source>no prices</source>
+        <translation>keine Preise</translation>
+    </message>
+    <message>
+        <source>logarithmic</source>
+        <translation>logarithmisch</translation>
+    </message>
+    <message>
+        <source>linear</source>
+        <translation>linear</translation>
     </message>
 </context>
 <context>
@@ -266,10 +411,6 @@ Exit-Status: 0 erledigt, 2 Aufruffehler, 3 Datenverzeichnis oder Artikel nicht g
 payments and fees, shipment methods, currencies, shipping groups, rules</source>
         <translation>was der Key Account erlaubt und wie eine Bestellung beginnt: Bestellwege,
 Zahlarten und Gebühren, Versandarten, Währungen, Versandgruppen, Regeln</translation>
-    </message>
-    <message>
-        <source>price, ordering: the order source (default %1).</source>
-        <translation>price, ordering: der Bestellweg (Standard %1).</translation>
     </message>
     <message>
         <source>unknown order source &apos;%1&apos;; use %2</source>
@@ -411,10 +552,6 @@ Zahlarten und Gebühren, Versandarten, Währungen, Versandgruppen, Regeln</trans
         <translation>der Betrag für COUNT Stück, mit dem Betrag jedes Modells</translation>
     </message>
     <message>
-        <source>price: the order source (default %1).</source>
-        <translation>price: der Bestellweg (Standard %1).</translation>
-    </message>
-    <message>
         <source>price: the goods&apos; sum in hundredths, for &quot;z&quot; rows.</source>
         <translation>price: der Warenwert in Hundertsteln, für &quot;z&quot;-Zeilen.</translation>
     </message>
@@ -468,30 +605,22 @@ Zahlarten und Gebühren, Versandarten, Währungen, Versandgruppen, Regeln</trans
     </message>
 </context>
 <context>
-    <name>ZTAPMQuoteCommand</name>
+    <name>ZTAPMQuoteArguments</name>
     <message>
-        <source>one bill per shipping group of the basket, with fees and the total</source>
-        <translation>eine Rechnung je Versandgruppe des Warenkorbs, mit Gebühren und Summe</translation>
+        <source>%1: the payment method, ID or ID_BRAND (default the order source&apos;s starting payment).</source>
+        <translation>%1: die Zahlart, ID oder ID_BRAND (Standard die anfängliche Zahlart des Bestellwegs).</translation>
     </message>
     <message>
-        <source>price, quote: the order source (default %1).</source>
-        <translation>price, quote: der Bestellweg (Standard %1).</translation>
+        <source>%1: the shipment method id.</source>
+        <translation>%1: die Nummer der Versandart.</translation>
     </message>
     <message>
-        <source>quote: the payment method, ID or ID_BRAND (default the order source&apos;s starting payment).</source>
-        <translation>quote: die Zahlart, ID oder ID_BRAND (Standard die anfängliche Zahlart des Bestellwegs).</translation>
+        <source>%1: the express wish, standard or express (default none).</source>
+        <translation>%1: der Expresswunsch, standard oder express (Standard keiner).</translation>
     </message>
     <message>
-        <source>quote: the shipment method id.</source>
-        <translation>quote: die Nummer der Versandart.</translation>
-    </message>
-    <message>
-        <source>quote: the express wish, standard or express (default none).</source>
-        <translation>quote: der Expresswunsch, standard oder express (Standard keiner).</translation>
-    </message>
-    <message>
-        <source>usage: quote ID:COUNT [ID:COUNT ...] [--source S] [--payment ID[_BRAND]] [--shipment ID] [--express standard|express]</source>
-        <translation>Aufruf: quote ID:COUNT [ID:COUNT ...] [--source S] [--payment ID[_BRAND]] [--shipment ID] [--express standard|express]</translation>
+        <source>price, quote, ordering, result: the order source (default %1).</source>
+        <translation>price, quote, ordering, result: der Bestellweg (Standard %1).</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no item ID:COUNT</source>
@@ -516,6 +645,17 @@ Zahlarten und Gebühren, Versandarten, Währungen, Versandgruppen, Regeln</trans
     <message>
         <source>no shipment method %1</source>
         <translation>keine Versandart %1</translation>
+    </message>
+</context>
+<context>
+    <name>ZTAPMQuoteCommand</name>
+    <message>
+        <source>one bill per shipping group of the basket, with fees and the total</source>
+        <translation>eine Rechnung je Versandgruppe des Warenkorbs, mit Gebühren und Summe</translation>
+    </message>
+    <message>
+        <source>usage: quote ID:COUNT [ID:COUNT ...] [--source S] [--payment ID[_BRAND]] [--shipment ID] [--express standard|express]</source>
+        <translation>Aufruf: quote ID:COUNT [ID:COUNT ...] [--source S] [--payment ID[_BRAND]] [--shipment ID] [--express standard|express]</translation>
     </message>
     <message>
         <source>express</source>
@@ -572,6 +712,243 @@ Zahlarten und Gebühren, Versandarten, Währungen, Versandgruppen, Regeln</trans
     <message>
         <source>Shipment fee: %1</source>
         <translation>Versandartgebühr: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ZTAPMResultCommand</name>
+    <message>
+        <source>position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>transfer</source>
+        <translation>Versand</translation>
+    </message>
+    <message>
+        <source>express fee</source>
+        <translation>Expressgebühr</translation>
+    </message>
+    <message>
+        <source>payment fee</source>
+        <translation>Zahlungsgebühr</translation>
+    </message>
+    <message>
+        <source>bill total</source>
+        <translation>Rechnungssumme</translation>
+    </message>
+    <message>
+        <source>shipment fee</source>
+        <translation>Versandartgebühr</translation>
+    </message>
+    <message>
+        <source>products</source>
+        <translation>Produkte</translation>
+    </message>
+    <message>
+        <source>transfers</source>
+        <translation>Versand gesamt</translation>
+    </message>
+    <message>
+        <source>total</source>
+        <translation>Summe</translation>
+    </message>
+    <message>
+        <source>express</source>
+        <translation>Express</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>the server&apos;s order calculation in FILE: sums, bills, fees, taxes, coupons,
+shipping dates and the pay methods it permits</source>
+        <translation>die Bestellberechnung des Servers in FILE: Summen, Rechnungen, Gebühren, Steuern, Gutscheine,
+Versandtermine und die Zahlarten, die sie erlaubt</translation>
+    </message>
+    <message>
+        <source>result: writes the order declaration of the bills to OUT.</source>
+        <translation>result: schreibt die Bestellerklärung der Rechnungen nach OUT.</translation>
+    </message>
+    <message>
+        <source>result: compares with the local quote of the basket; further items ID:COUNT follow FILE.</source>
+        <translation>result: vergleicht mit dem lokalen Kostenvoranschlag des Warenkorbs; weitere Positionen ID:COUNT folgen auf FILE.</translation>
+    </message>
+    <message>
+        <source>usage: result FILE [--source S] [--payment ID[_BRAND]] [--declaration OUT] [--basket ID:COUNT ...]</source>
+        <translation>Aufruf: result FILE [--source S] [--payment ID[_BRAND]] [--declaration OUT] [--basket ID:COUNT ...]</translation>
+    </message>
+    <message>
+        <source>file &apos;%1&apos; does not exist</source>
+        <translation>Datei &apos;%1&apos; existiert nicht</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no order calculation: it cannot be read</source>
+        <translation>&apos;%1&apos; ist keine Bestellberechnung: sie kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no valid order calculation: it holds no valid bill</source>
+        <translation>&apos;%1&apos; ist keine gültige Bestellberechnung: sie enthält keine gültige Rechnung</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no valid order calculation: %2 bill(s), but total_parts says %3</source>
+        <translation>&apos;%1&apos; ist keine gültige Bestellberechnung: %2 Rechnung(en), aber total_parts nennt %3</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;</source>
+        <translation>&apos;%1&apos; kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Order calculation %1, order source %2, payment %3</source>
+        <translation>Bestellberechnung %1, Bestellweg %2, Zahlart %3</translation>
+    </message>
+    <message>
+        <source>%1 product(s) for %2, transfers %3, coupons %4, total %5</source>
+        <translation>%1 Produkt(e) für %2, Versand %3, Gutscheine %4, Summe %5</translation>
+    </message>
+    <message>
+        <source>Shipping group %1 %2</source>
+        <translation>Versandgruppe %1 %2</translation>
+    </message>
+    <message>
+        <source>pos %1</source>
+        <translation>Pos. %1</translation>
+    </message>
+    <message>
+        <source>%1 photo(s), at most %2 per piece; transfer base %3, unit %4</source>
+        <translation>%1 Foto(s), höchstens %2 je Stück; Versand Grundbetrag %3, Einheit %4</translation>
+    </message>
+    <message>
+        <source>part %1: %2 %3, %4 x %5 per piece</source>
+        <translation>Teil %1: %2 %3, %4 x %5 je Stück</translation>
+    </message>
+    <message>
+        <source>Transfer (article %1, transfer model %2, %3): %4</source>
+        <translation>Versand (Artikel %1, Versandmodell %2, %3): %4</translation>
+    </message>
+    <message>
+        <source>Express fee: none</source>
+        <translation>Expressgebühr: keine</translation>
+    </message>
+    <message>
+        <source>Express fee (article %1%2): %3</source>
+        <translation>Expressgebühr (Artikel %1%2): %3</translation>
+    </message>
+    <message>
+        <source>Payment fee: none</source>
+        <translation>Zahlungsgebühr: keine</translation>
+    </message>
+    <message>
+        <source>Payment fee (article %1%2): %3</source>
+        <translation>Zahlungsgebühr (Artikel %1%2): %3</translation>
+    </message>
+    <message>
+        <source>Shipment fee: none</source>
+        <translation>Versandartgebühr: keine</translation>
+    </message>
+    <message>
+        <source>Shipment fee (article %1%2): %3</source>
+        <translation>Versandartgebühr (Artikel %1%2): %3</translation>
+    </message>
+    <message>
+        <source>Sales tax: none</source>
+        <translation>Umsatzsteuer: keine</translation>
+    </message>
+    <message>
+        <source>Sales tax: %1</source>
+        <translation>Umsatzsteuer: %1</translation>
+    </message>
+    <message>
+        <source>Provincial sales tax: none</source>
+        <translation>Provinz-Umsatzsteuer: keine</translation>
+    </message>
+    <message>
+        <source>Provincial sales tax: %1</source>
+        <translation>Provinz-Umsatzsteuer: %1</translation>
+    </message>
+    <message>
+        <source>Coupon %1: %2</source>
+        <translation>Gutschein %1: %2</translation>
+    </message>
+    <message>
+        <source>(from the server)</source>
+        <translation>(vom Server)</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Shipping: %1</source>
+        <translation>Versandtermine: %1</translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation>kein Termin</translation>
+    </message>
+    <message>
+        <source>Total: %1 (before taxes %2)</source>
+        <translation>Summe: %1 (vor Steuern %2)</translation>
+    </message>
+    <message>
+        <source>Coupons: %1</source>
+        <translation>Gutscheine: %1</translation>
+    </message>
+    <message>
+        <source>Express types of every bill: %1</source>
+        <translation>Expressarten aller Rechnungen: %1</translation>
+    </message>
+    <message>
+        <source>Pay methods:</source>
+        <translation>Zahlarten:</translation>
+    </message>
+    <message>
+        <source> (express)</source>
+        <translation> (Express)</translation>
+    </message>
+    <message>
+        <source>(unknown to the client)</source>
+        <translation>(dem Client unbekannt)</translation>
+    </message>
+    <message>
+        <source>no shipment method</source>
+        <translation>keine Versandart</translation>
+    </message>
+    <message>
+        <source>Declaration written to %1</source>
+        <translation>Bestellerklärung geschrieben nach %1</translation>
+    </message>
+    <message>
+        <source>Local quote: %1; %2 line(s) compared, %3</source>
+        <translation>Lokaler Kostenvoranschlag: %1; %2 Zeile(n) verglichen, %3</translation>
+    </message>
+    <message>
+        <source>no difference</source>
+        <translation>kein Unterschied</translation>
+    </message>
+    <message>
+        <source>%1 difference(s):</source>
+        <translation>%1 Unterschied(e):</translation>
+    </message>
+    <message>
+        <source>order</source>
+        <translation>Bestellung</translation>
+    </message>
+    <message>
+        <source>group %1</source>
+        <translation>Gruppe %1</translation>
+    </message>
+    <message>
+        <source>local %1</source>
+        <translation>lokal %1</translation>
+    </message>
+    <message>
+        <source>server %1</source>
+        <translation>Server %1</translation>
     </message>
 </context>
 <context>

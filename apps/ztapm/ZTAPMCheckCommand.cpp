@@ -23,6 +23,34 @@ QString placeText(const QJsonObject& theFinding)
     return result;
 }
 
+// The severity of a finding (a keyword of JSON) for a person.
+QString severityText(const QString& theName)
+{
+    if (theName == ZTDiagnostic::severityName(ZTDiagnostic::Error))
+        return ZTAPMCheckCommand::tr("error");
+    if (theName == ZTDiagnostic::severityName(ZTDiagnostic::Warning))
+        return ZTAPMCheckCommand::tr("warning");
+    if (theName == ZTDiagnostic::severityName(ZTDiagnostic::Note))
+        return ZTAPMCheckCommand::tr("note");
+    return theName;
+}
+
+// "1 error", "2 warnings": a whole text for one and for more, as languages differ in both.
+QString countText(ZTDiagnostic::Severity theSeverity, int theCount)
+{
+    const bool one = theCount == 1;
+    switch (theSeverity) {
+    case ZTDiagnostic::Error:
+        return (one ? ZTAPMCheckCommand::tr("%1 error") : ZTAPMCheckCommand::tr("%1 errors")).arg(theCount);
+    case ZTDiagnostic::Warning:
+        return (one ? ZTAPMCheckCommand::tr("%1 warning") : ZTAPMCheckCommand::tr("%1 warnings"))
+            .arg(theCount);
+    case ZTDiagnostic::Note:
+        return (one ? ZTAPMCheckCommand::tr("%1 note") : ZTAPMCheckCommand::tr("%1 notes")).arg(theCount);
+    }
+    return QString::number(theCount);
+}
+
 } // namespace
 
 ZTAPMCheckCommand::ZTAPMCheckCommand() = default;
@@ -40,8 +68,8 @@ QString ZTAPMCheckCommand::synopsis() const
 
 QString ZTAPMCheckCommand::summary() const
 {
-    return QStringLiteral("check the key account's documents: each problem with file, line,\n"
-                          "column and severity; exit status 5 if one is an error");
+    return tr("check the key account's documents: each problem with file, line,\n"
+              "column and severity; exit status 5 if one is an error");
 }
 
 int ZTAPMCheckCommand::readArguments(const QStringList& theArguments, const QCommandLineParser&)
@@ -82,17 +110,16 @@ void ZTAPMCheckCommand::writeText(const QJsonObject& theReport, QTextStream& the
 {
     for (const QJsonValue& value : theReport[QStringLiteral("findings")].toArray()) {
         const QJsonObject finding = value.toObject();
-        theOut << placeText(finding) << ": " << finding[QStringLiteral("severity")].toString() << ": "
-               << finding[QStringLiteral("message")].toString() << '\n';
+        // The message is the reader's log text, in the log's language.
+        theOut << tr("%1: %2: %3")
+                      .arg(placeText(finding), severityText(finding[QStringLiteral("severity")].toString()),
+                           finding[QStringLiteral("message")].toString())
+               << '\n';
     }
     const QJsonObject counts = theReport[QStringLiteral("counts")].toObject();
     QStringList parts;
-    for (const ZTDiagnostic::Severity severity : severities) {
-        const QString name = ZTDiagnostic::severityName(severity);
-        const int count = counts[name].toInt();
-        parts.append(
-            QStringLiteral("%1 %2%3").arg(count).arg(name, count == 1 ? QString() : QStringLiteral("s")));
-    }
+    for (const ZTDiagnostic::Severity severity : severities)
+        parts.append(countText(severity, counts[ZTDiagnostic::severityName(severity)].toInt()));
     theOut << parts.join(QStringLiteral(", ")) << '\n';
 }
 

@@ -11,6 +11,8 @@ class ZTAPMCatalogueCheck;
 // severity, in the order of file, line and column; exit status 5 when one is an error.
 class ZTAPMCheckCommand : public ZTAPMCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMCheckCommand)
+
 public:
     ZTAPMCheckCommand();
     ~ZTAPMCheckCommand() override;

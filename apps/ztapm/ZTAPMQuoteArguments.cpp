@@ -10,18 +10,17 @@
 
 QList<QCommandLineOption> ZTAPMQuoteArguments::options(const QString& theCommands)
 {
-    return {QCommandLineOption(QStringLiteral("payment"),
-                               QStringLiteral("%1: the payment method, ID or ID_BRAND (default the order "
-                                              "source's starting payment).")
-                                   .arg(theCommands),
-                               QStringLiteral("ID")),
-            QCommandLineOption(QStringLiteral("shipment"),
-                               QStringLiteral("%1: the shipment method id.").arg(theCommands),
-                               QStringLiteral("ID")),
-            QCommandLineOption(
-                QStringLiteral("express"),
-                QStringLiteral("%1: the express wish, standard or express (default none).").arg(theCommands),
-                QStringLiteral("E"))};
+    return {
+        QCommandLineOption(QStringLiteral("payment"),
+                           tr("%1: the payment method, ID or ID_BRAND (default the order "
+                              "source's starting payment).")
+                               .arg(theCommands),
+                           QStringLiteral("ID")),
+        QCommandLineOption(QStringLiteral("shipment"), tr("%1: the shipment method id.").arg(theCommands),
+                           QStringLiteral("ID")),
+        QCommandLineOption(QStringLiteral("express"),
+                           tr("%1: the express wish, standard or express (default none).").arg(theCommands),
+                           QStringLiteral("E"))};
 }
 
 QCommandLineOption ZTAPMQuoteArguments::sourceOption()
@@ -29,7 +28,7 @@ QCommandLineOption ZTAPMQuoteArguments::sourceOption()
     const QString defaultName = ZTAPMCommand::orderSourceName(ZTAPMCommand::defaultOrderSource());
     return QCommandLineOption(
         QStringLiteral("source"),
-        QStringLiteral("price, quote, ordering, result: the order source (default %1).").arg(defaultName),
+        tr("price, quote, ordering, result: the order source (default %1).").arg(defaultName),
         QStringLiteral("S"), defaultName);
 }
 
@@ -40,8 +39,7 @@ int ZTAPMQuoteArguments::readItems(const QStringList& theArguments)
         bool countOk = false;
         const int count = parts.size() == 2 ? parts.at(1).toInt(&countOk) : 0;
         if (!countOk || count < 0)
-            return ZTAPMCommand::fail(ZTAPMCommand::UsageError,
-                                      QStringLiteral("'%1' is no item ID:COUNT").arg(argument));
+            return ZTAPMCommand::fail(ZTAPMCommand::UsageError, tr("'%1' is no item ID:COUNT").arg(argument));
         int id = 0;
         if (const int status = ZTAPMCommand::readArticleId(parts.at(0), &id))
             return status;
@@ -56,15 +54,15 @@ int ZTAPMQuoteArguments::readOptions(const QCommandLineParser& theParser)
     myOrderSource = ZTAPMCommand::orderSourceNamed(sourceName);
     if (!myOrderSource.isValid())
         return ZTAPMCommand::fail(ZTAPMCommand::UsageError,
-                                  QStringLiteral("unknown order source '%1'; see --help").arg(sourceName));
+                                  tr("unknown order source '%1'; see --help").arg(sourceName));
     myPayment = theParser.value(QStringLiteral("payment"));
     if (theParser.isSet(QStringLiteral("shipment"))) {
         bool ok = false;
         myShipment = theParser.value(QStringLiteral("shipment")).toInt(&ok);
         if (!ok || myShipment < 0)
-            return ZTAPMCommand::fail(ZTAPMCommand::UsageError,
-                                      QStringLiteral("'%1' is no shipment method id")
-                                          .arg(theParser.value(QStringLiteral("shipment"))));
+            return ZTAPMCommand::fail(
+                ZTAPMCommand::UsageError,
+                tr("'%1' is no shipment method id").arg(theParser.value(QStringLiteral("shipment"))));
     }
     const QString express = theParser.value(QStringLiteral("express"));
     if (express == QLatin1String("standard"))
@@ -72,9 +70,8 @@ int ZTAPMQuoteArguments::readOptions(const QCommandLineParser& theParser)
     else if (express == QLatin1String("express"))
         myExpressType = ZTExpressType(ZTExpressTypeExpress);
     else if (theParser.isSet(QStringLiteral("express")))
-        return ZTAPMCommand::fail(
-            ZTAPMCommand::UsageError,
-            QStringLiteral("--express takes standard or express, not '%1'").arg(express));
+        return ZTAPMCommand::fail(ZTAPMCommand::UsageError,
+                                  tr("--express takes standard or express, not '%1'").arg(express));
     return ZTAPMCommand::Success;
 }
 
@@ -110,7 +107,7 @@ int ZTAPMQuoteArguments::status(ZTAPMStatus* theStatus) const
             details->paymentMethod(myOrderSource, ZTPaymentId(id), myPayment.section(QLatin1Char('_'), 1));
         if (!ok || !method.isValid())
             return ZTAPMCommand::fail(ZTAPMCommand::NotFound,
-                                      QStringLiteral("no payment method '%1' for %2")
+                                      tr("no payment method '%1' for %2")
                                           .arg(myPayment, ZTAPMCommand::orderSourceName(myOrderSource)));
         theStatus->setPaymentMethod(method);
     }
@@ -119,8 +116,7 @@ int ZTAPMQuoteArguments::status(ZTAPMStatus* theStatus) const
     if (myShipment >= 0) {
         const ZTShipmentMethod method = details->shipmentMethods().value(myShipment);
         if (!method.isValid())
-            return ZTAPMCommand::fail(ZTAPMCommand::NotFound,
-                                      QStringLiteral("no shipment method %1").arg(myShipment));
+            return ZTAPMCommand::fail(ZTAPMCommand::NotFound, tr("no shipment method %1").arg(myShipment));
         theStatus->setShipmentMethod(method);
     }
     return ZTAPMCommand::Success;

@@ -5,6 +5,7 @@
 #include "ZTOrderSource.h"
 
 #include <QCommandLineOption>
+#include <QCoreApplication>
 #include <QList>
 #include <QPair>
 #include <QStringList>
@@ -18,6 +19,8 @@ class ZTAPMStatus;
 // read before the engine starts; the basket and the status are made from them after it started.
 class ZTAPMQuoteArguments
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMQuoteArguments)
+
 public:
     // --payment, --shipment and --express, for the commands named in theCommands ("quote, result").
     static QList<QCommandLineOption> options(const QString& theCommands);

@@ -60,7 +60,8 @@ QList<QCommandLineOption> ZTAPMQuoteCommand::options() const
 int ZTAPMQuoteCommand::readArguments(const QStringList& theArguments, const QCommandLineParser& theParser)
 {
     if (theArguments.isEmpty())
-        return fail(UsageError, theUsage);
+        return fail(UsageError, tr("usage: quote ID:COUNT [ID:COUNT ...] [--source S] [--payment ID[_BRAND]] "
+                                   "[--shipment ID] [--express standard|express]"));
     if (const int status = myArguments.readItems(theArguments))
         return status;
     return myArguments.readOptions(theParser);

@@ -18,9 +18,6 @@
 
 namespace {
 
-const QString theUsage = QStringLiteral("usage: result FILE [--source S] [--payment ID[_BRAND]] "
-                                        "[--declaration OUT] [--basket ID:COUNT ...]");
-
 QString articleName(const ZTArticleId& theId)
 {
     const ZTProductAbstract* product = ZTSingleton<ZTAPMDataBase>::instance()->productAbstract(theId);
@@ -76,20 +73,31 @@ QString kindName(ZTAPMBillDifference::Kind theKind)
     return QString();
 }
 
-// The words of a kind for a person.
+// The words of a kind (a keyword of JSON) for a person.
 QString kindText(const QString& theKind)
 {
-    static const QHash<QString, QString> texts{
-        {QStringLiteral("position"), QStringLiteral("position")},
-        {QStringLiteral("transfer"), QStringLiteral("transfer")},
-        {QStringLiteral("expressFee"), QStringLiteral("express fee")},
-        {QStringLiteral("paymentFee"), QStringLiteral("payment fee")},
-        {QStringLiteral("billTotal"), QStringLiteral("bill total")},
-        {QStringLiteral("shipmentFee"), QStringLiteral("shipment fee")},
-        {QStringLiteral("productsTotal"), QStringLiteral("products")},
-        {QStringLiteral("transferTotal"), QStringLiteral("transfers")},
-        {QStringLiteral("total"), QStringLiteral("total")}};
-    return texts.value(theKind, theKind);
+    static const QHash<QString, const char*> texts{
+        {QStringLiteral("position"), QT_TRANSLATE_NOOP("ZTAPMResultCommand", "position")},
+        {QStringLiteral("transfer"), QT_TRANSLATE_NOOP("ZTAPMResultCommand", "transfer")},
+        {QStringLiteral("expressFee"), QT_TRANSLATE_NOOP("ZTAPMResultCommand", "express fee")},
+        {QStringLiteral("paymentFee"), QT_TRANSLATE_NOOP("ZTAPMResultCommand", "payment fee")},
+        {QStringLiteral("billTotal"), QT_TRANSLATE_NOOP("ZTAPMResultCommand", "bill total")},
+        {QStringLiteral("shipmentFee"), QT_TRANSLATE_NOOP("ZTAPMResultCommand", "shipment fee")},
+        {QStringLiteral("productsTotal"), QT_TRANSLATE_NOOP("ZTAPMResultCommand", "products")},
+        {QStringLiteral("transferTotal"), QT_TRANSLATE_NOOP("ZTAPMResultCommand", "transfers")},
+        {QStringLiteral("total"), QT_TRANSLATE_NOOP("ZTAPMResultCommand", "total")}};
+    const char* text = texts.value(theKind);
+    return text ? ZTAPMResultCommand::tr(text) : theKind;
+}
+
+// The express wish of a shipping date (a keyword of JSON) for a person.
+QString expressText(const QString& theExpress)
+{
+    if (theExpress == QLatin1String("express"))
+        return ZTAPMResultCommand::tr("express");
+    if (theExpress == QLatin1String("standard"))
+        return ZTAPMResultCommand::tr("standard");
+    return ZTAPMResultCommand::tr("none");
 }
 
 QJsonObject positionJson(const ZTOCRBillPosition& thePosition)
@@ -242,10 +250,11 @@ QString ZTAPMResultCommand::synopsis() const
 
 QString ZTAPMResultCommand::summary() const
 {
-    return QStringLiteral("the server's order calculation in FILE: sums, bills, fees, taxes, coupons,\n"
-                          "shipping dates and the pay methods it permits\n"
-                          "[--source S] [--payment ID[_BRAND]] [--shipment ID] [--express standard|express]\n"
-                          "[--declaration OUT] [--basket ID:COUNT ...]");
+    return tr("the server's order calculation in FILE: sums, bills, fees, taxes, coupons,\n"
+              "shipping dates and the pay methods it permits") +
+           QStringLiteral(
+               "\n[--source S] [--payment ID[_BRAND]] [--shipment ID] [--express standard|express]\n"
+               "[--declaration OUT] [--basket ID:COUNT ...]");
 }
 
 QList<QCommandLineOption> ZTAPMResultCommand::options() const
@@ -254,30 +263,31 @@ QList<QCommandLineOption> ZTAPMResultCommand::options() const
            ZTAPMQuoteArguments::options(QStringLiteral("quote, result")) +
            QList<QCommandLineOption>{
                QCommandLineOption(QStringLiteral("declaration"),
-                                  QStringLiteral("result: writes the order declaration of the bills to OUT."),
+                                  tr("result: writes the order declaration of the bills to OUT."),
                                   QStringLiteral("OUT")),
-               QCommandLineOption(
-                   QStringLiteral("basket"),
-                   QStringLiteral("result: compares with the local quote of the basket; further "
-                                  "items ID:COUNT follow FILE."),
-                   QStringLiteral("ID:COUNT"))};
+               QCommandLineOption(QStringLiteral("basket"),
+                                  tr("result: compares with the local quote of the basket; further "
+                                     "items ID:COUNT follow FILE."),
+                                  QStringLiteral("ID:COUNT"))};
 }
 
 int ZTAPMResultCommand::readArguments(const QStringList& theArguments, const QCommandLineParser& theParser)
 {
+    const QString usage = tr("usage: result FILE [--source S] [--payment ID[_BRAND]] "
+                             "[--declaration OUT] [--basket ID:COUNT ...]");
     if (theArguments.isEmpty())
-        return fail(UsageError, theUsage);
+        return fail(UsageError, usage);
     myFile = theArguments.first();
     const QStringList items = theParser.values(QStringLiteral("basket")) + theArguments.mid(1);
     if (theArguments.size() > 1 && !theParser.isSet(QStringLiteral("basket")))
-        return fail(UsageError, theUsage);
+        return fail(UsageError, usage);
     if (const int status = myArguments.readItems(items))
         return status;
     if (const int status = myArguments.readOptions(theParser))
         return status;
     myDeclaration = theParser.value(QStringLiteral("declaration"));
     if (!QFileInfo(myFile).isFile())
-        return fail(NotFound, QStringLiteral("file '%1' does not exist").arg(myFile));
+        return fail(NotFound, tr("file '%1' does not exist").arg(myFile));
     return Success;
 }
 
@@ -289,17 +299,15 @@ int ZTAPMResultCommand::run(QJsonObject& theReport)
     // The loader has said why when it refuses the file.
     const QDomElement root = ZTXMLLoader::loadDocumentElement(QFileInfo(myFile));
     if (root.isNull())
-        return fail(InvalidResult,
-                    QStringLiteral("'%1' is no order calculation: it cannot be read").arg(myFile));
+        return fail(InvalidResult, tr("'%1' is no order calculation: it cannot be read").arg(myFile));
     const ZTOrderCalculationResult result(status, root);
     if (!result.isValid()) {
         const int declared = ZTXMLParser::intText(root, QStringLiteral("total_parts"), 0);
         if (result.billDeclarationOrder().isEmpty())
-            return fail(
-                InvalidResult,
-                QStringLiteral("'%1' is no valid order calculation: it holds no valid bill").arg(myFile));
-        return fail(InvalidResult, QStringLiteral("'%1' is no valid order calculation: %2 bill(s), but "
-                                                  "total_parts says %3")
+            return fail(InvalidResult,
+                        tr("'%1' is no valid order calculation: it holds no valid bill").arg(myFile));
+        return fail(InvalidResult, tr("'%1' is no valid order calculation: %2 bill(s), but "
+                                      "total_parts says %3")
                                        .arg(myFile)
                                        .arg(result.billDeclarationOrder().size())
                                        .arg(declared));
@@ -318,7 +326,7 @@ int ZTAPMResultCommand::run(QJsonObject& theReport)
         QFile file(myDeclaration);
         const QByteArray document = result.orderDeclaration();
         if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(document) != document.size())
-            return fail(NotFound, QStringLiteral("cannot write '%1'").arg(myDeclaration));
+            return fail(NotFound, tr("cannot write '%1'").arg(myDeclaration));
         declaration = myDeclaration;
     }
 
@@ -348,12 +356,12 @@ int ZTAPMResultCommand::run(QJsonObject& theReport)
 void ZTAPMResultCommand::writeText(const QJsonObject& theReport, QTextStream& theOut) const
 {
     const QString payment = theReport[QStringLiteral("payment")].toString();
-    theOut << QStringLiteral("Order calculation %1, order source %2, payment %3")
+    theOut << tr("Order calculation %1, order source %2, payment %3")
                   .arg(theReport[QStringLiteral("file")].toString(),
                        theReport[QStringLiteral("source")].toString(),
-                       payment.isEmpty() ? QStringLiteral("none") : payment)
+                       payment.isEmpty() ? tr("none") : payment)
            << '\n'
-           << QStringLiteral("%1 product(s) for %2, transfers %3, coupons %4, total %5")
+           << tr("%1 product(s) for %2, transfers %3, coupons %4, total %5")
                   .arg(theReport[QStringLiteral("products")].toInt())
                   .arg(amountText(theReport[QStringLiteral("productsSum")]),
                        amountText(theReport[QStringLiteral("transferSum")]),
@@ -364,13 +372,13 @@ void ZTAPMResultCommand::writeText(const QJsonObject& theReport, QTextStream& th
     for (const QJsonValue& value : theReport[QStringLiteral("bills")].toArray()) {
         const QJsonObject bill = value.toObject();
         theOut << '\n'
-               << QStringLiteral("Shipping group %1 %2")
+               << tr("Shipping group %1 %2")
                       .arg(groupText(bill[QStringLiteral("group")]), bill[QStringLiteral("name")].toString())
                << '\n';
         for (const QJsonValue& entry : bill[QStringLiteral("positions")].toArray()) {
             const QJsonObject position = entry.toObject();
             writeColumns(theOut,
-                         {QString(), QStringLiteral("pos %1").arg(position[QStringLiteral("pos")].toInt()),
+                         {QString(), tr("pos %1").arg(position[QStringLiteral("pos")].toInt()),
                           QString::number(position[QStringLiteral("article")].toInt()),
                           position[QStringLiteral("name")].toString(),
                           position[QStringLiteral("model")].toString(QStringLiteral("-")),
@@ -379,7 +387,8 @@ void ZTAPMResultCommand::writeText(const QJsonObject& theReport, QTextStream& th
                               .arg(amountText(position[QStringLiteral("price")])),
                           amountText(position[QStringLiteral("total")])},
                          {1, 7, 6, 34, 9, 18, 0});
-            theOut << QStringLiteral("         %1 photo(s), at most %2 per piece; transfer base %3, unit %4")
+            theOut << "         "
+                   << tr("%1 photo(s), at most %2 per piece; transfer base %3, unit %4")
                           .arg(position[QStringLiteral("photos")].toInt())
                           .arg(position[QStringLiteral("maxPhotos")].toInt())
                           .arg(amountText(position[QStringLiteral("transferBasePrice")]),
@@ -387,7 +396,8 @@ void ZTAPMResultCommand::writeText(const QJsonObject& theReport, QTextStream& th
                    << '\n';
             for (const QJsonValue& item : position[QStringLiteral("parts")].toArray()) {
                 const QJsonObject part = item.toObject();
-                theOut << QStringLiteral("         part %1: %2 %3, %4 x %5 per piece")
+                theOut << "         "
+                       << tr("part %1: %2 %3, %4 x %5 per piece")
                               .arg(part[QStringLiteral("id")].toInt())
                               .arg(part[QStringLiteral("article")].toInt())
                               .arg(part[QStringLiteral("name")].toString())
@@ -397,41 +407,52 @@ void ZTAPMResultCommand::writeText(const QJsonObject& theReport, QTextStream& th
             }
         }
         const QJsonObject transfer = bill[QStringLiteral("transfer")].toObject();
-        theOut << QStringLiteral("  Transfer (article %1, transfer model %2, %3): %4")
+        theOut << "  "
+               << tr("Transfer (article %1, transfer model %2, %3): %4")
                       .arg(transfer[QStringLiteral("article")].toInt())
                       .arg(transfer[QStringLiteral("transferModel")].toString(),
                            transfer[QStringLiteral("model")].toString(),
                            amountText(transfer[QStringLiteral("price")]))
                << '\n';
-        const QList<QPair<QString, QString>> fees{
-            {QStringLiteral("expressFee"), QStringLiteral("Express fee")},
-            {QStringLiteral("paymentFee"), QStringLiteral("Payment fee")},
-            {QStringLiteral("shipmentFee"), QStringLiteral("Shipment fee")}};
-        for (const auto& [key, text] : fees) {
-            const QJsonValue fee = bill[key];
-            if (fee.isNull()) {
-                theOut << "  " << text << ": none\n";
+        // A fee's key with its line without and with an article.
+        const struct
+        {
+            QString key;
+            QString none;
+            QString text;
+        } fees[] = {
+            {QStringLiteral("expressFee"), tr("Express fee: none"), tr("Express fee (article %1%2): %3")},
+            {QStringLiteral("paymentFee"), tr("Payment fee: none"), tr("Payment fee (article %1%2): %3")},
+            {QStringLiteral("shipmentFee"), tr("Shipment fee: none"), tr("Shipment fee (article %1%2): %3")}};
+        for (const auto& fee : fees) {
+            const QJsonValue value = bill[fee.key];
+            if (value.isNull()) {
+                theOut << "  " << fee.none << '\n';
                 continue;
             }
-            const QString model = fee[QStringLiteral("model")].isString()
-                                      ? QStringLiteral(", %1").arg(fee[QStringLiteral("model")].toString())
+            const QString model = value[QStringLiteral("model")].isString()
+                                      ? QStringLiteral(", %1").arg(value[QStringLiteral("model")].toString())
                                       : QString();
-            theOut << QStringLiteral("  %1 (article %2%3): %4")
-                          .arg(text)
-                          .arg(fee[QStringLiteral("article")].toInt())
-                          .arg(model, amountText(fee[QStringLiteral("price")]))
+            theOut << "  "
+                   << fee.text.arg(value[QStringLiteral("article")].toInt())
+                          .arg(model, amountText(value[QStringLiteral("price")]))
                    << '\n';
         }
-        for (const auto& [key, text] :
-             {qMakePair(QStringLiteral("salesTax"), QStringLiteral("Sales tax")),
-              qMakePair(QStringLiteral("provincialSalesTax"), QStringLiteral("Provincial sales tax"))}) {
-            theOut << "  " << text << ": "
-                   << (bill[key].isNull() ? QStringLiteral("none") : amountText(bill[key])) << '\n';
-        }
+        const QJsonValue salesTax = bill[QStringLiteral("salesTax")];
+        const QJsonValue provincialSalesTax = bill[QStringLiteral("provincialSalesTax")];
+        theOut << "  "
+               << (salesTax.isNull() ? tr("Sales tax: none") : tr("Sales tax: %1").arg(amountText(salesTax)))
+               << '\n'
+               << "  "
+               << (provincialSalesTax.isNull()
+                       ? tr("Provincial sales tax: none")
+                       : tr("Provincial sales tax: %1").arg(amountText(provincialSalesTax)))
+               << '\n';
         for (const QJsonValue& item : bill[QStringLiteral("coupons")].toArray())
-            theOut << QStringLiteral("  Coupon %1: %2")
+            theOut << "  "
+                   << tr("Coupon %1: %2")
                           .arg(item[QStringLiteral("code")].toString().isEmpty()
-                                   ? QStringLiteral("(from the server)")
+                                   ? tr("(from the server)")
                                    : item[QStringLiteral("code")].toString(),
                                amountText(item[QStringLiteral("value")]))
                    << '\n';
@@ -439,13 +460,14 @@ void ZTAPMResultCommand::writeText(const QJsonObject& theReport, QTextStream& th
         for (const QJsonValue& item : bill[QStringLiteral("shippingDates")].toArray()) {
             const QString from = item[QStringLiteral("from")].toString();
             const QString to = item[QStringLiteral("to")].toString();
-            dates.append(
-                QStringLiteral("%1 %2").arg(item[QStringLiteral("express")].toString(),
-                                            from == to ? from : QStringLiteral("%1 to %2").arg(from, to)));
+            dates.append(QStringLiteral("%1 %2").arg(expressText(item[QStringLiteral("express")].toString()),
+                                                     from == to ? from : tr("%1 to %2").arg(from, to)));
         }
-        theOut << "  Shipping: "
-               << (dates.isEmpty() ? QStringLiteral("no date") : dates.join(QStringLiteral(", "))) << '\n'
-               << QStringLiteral("  Total: %1 (before taxes %2)")
+        theOut << "  "
+               << tr("Shipping: %1").arg(dates.isEmpty() ? tr("no date") : dates.join(QStringLiteral(", ")))
+               << '\n'
+               << "  "
+               << tr("Total: %1 (before taxes %2)")
                       .arg(amountText(bill[QStringLiteral("total")]),
                            amountText(bill[QStringLiteral("subTotal")]))
                << '\n';
@@ -457,47 +479,47 @@ void ZTAPMResultCommand::writeText(const QJsonObject& theReport, QTextStream& th
                                                    amountText(item[QStringLiteral("value")])));
     QStringList expressTypes;
     for (const QJsonValue& item : theReport[QStringLiteral("expressTypes")].toArray())
-        expressTypes.append(item.toString());
+        expressTypes.append(expressText(item.toString()));
     theOut << '\n'
-           << "Coupons: " << (coupons.isEmpty() ? QStringLiteral("none") : coupons.join(QStringLiteral(", ")))
+           << tr("Coupons: %1").arg(coupons.isEmpty() ? tr("none") : coupons.join(QStringLiteral(", ")))
            << '\n'
-           << "Express types of every bill: "
-           << (expressTypes.isEmpty() ? QStringLiteral("none") : expressTypes.join(QStringLiteral(", ")))
+           << tr("Express types of every bill: %1")
+                  .arg(expressTypes.isEmpty() ? tr("none") : expressTypes.join(QStringLiteral(", ")))
            << '\n'
-           << "Pay methods:\n";
+           << tr("Pay methods:") << '\n';
     for (const QJsonValue& item : theReport[QStringLiteral("payMethods")].toArray()) {
         QStringList names;
         for (const QJsonValue& name : item[QStringLiteral("names")].toArray())
             names.append(name.toString());
         QStringList shipments;
         for (const QJsonValue& shipment : item[QStringLiteral("shipmentMethods")].toArray())
-            shipments.append(QStringLiteral("%1 %2%3")
-                                 .arg(shipment[QStringLiteral("id")].toInt())
-                                 .arg(shipment[QStringLiteral("name")].toString(),
-                                      shipment[QStringLiteral("express")].toBool()
-                                          ? QStringLiteral(" (express)")
-                                          : QString()));
-        theOut << QStringLiteral("  %1 %2: %3")
+            shipments.append(
+                QStringLiteral("%1 %2%3")
+                    .arg(shipment[QStringLiteral("id")].toInt())
+                    .arg(shipment[QStringLiteral("name")].toString(),
+                         shipment[QStringLiteral("express")].toBool() ? tr(" (express)") : QString()));
+        theOut << "  "
+               << QStringLiteral("%1 %2: %3")
                       .arg(item[QStringLiteral("id")].toInt())
-                      .arg(names.isEmpty() ? QStringLiteral("(unknown to the client)")
-                                           : names.join(QStringLiteral(", ")),
-                           shipments.isEmpty() ? QStringLiteral("no shipment method")
+                      .arg(names.isEmpty() ? tr("(unknown to the client)") : names.join(QStringLiteral(", ")),
+                           shipments.isEmpty() ? tr("no shipment method")
                                                : shipments.join(QStringLiteral(", ")))
                << '\n';
     }
     if (theReport[QStringLiteral("declaration")].isString())
-        theOut << "Declaration written to " << theReport[QStringLiteral("declaration")].toString() << '\n';
+        theOut << tr("Declaration written to %1").arg(theReport[QStringLiteral("declaration")].toString())
+               << '\n';
 
     const QJsonValue reconciliation = theReport[QStringLiteral("reconciliation")];
     if (!reconciliation.isObject())
         return;
     const QJsonArray differences = reconciliation[QStringLiteral("differences")].toArray();
     theOut << '\n'
-           << QStringLiteral("Local quote: %1; %2 line(s) compared, %3")
+           << tr("Local quote: %1; %2 line(s) compared, %3")
                   .arg(amountText(reconciliation[QStringLiteral("total")]))
                   .arg(reconciliation[QStringLiteral("compared")].toInt())
-                  .arg(differences.isEmpty() ? QStringLiteral("no difference")
-                                             : QStringLiteral("%1 difference(s):").arg(differences.size()))
+                  .arg(differences.isEmpty() ? tr("no difference")
+                                             : tr("%1 difference(s):").arg(differences.size()))
            << '\n';
     for (const QJsonValue& item : differences) {
         const QJsonObject difference = item.toObject();
@@ -505,13 +527,13 @@ void ZTAPMResultCommand::writeText(const QJsonObject& theReport, QTextStream& th
         writeColumns(theOut,
                      {QString(),
                       difference[QStringLiteral("group")].isNull()
-                          ? QStringLiteral("order")
-                          : QStringLiteral("group %1").arg(groupText(difference[QStringLiteral("group")])),
+                          ? tr("order")
+                          : tr("group %1").arg(groupText(difference[QStringLiteral("group")])),
                       kindText(difference[QStringLiteral("kind")].toString()),
                       article.isNull() ? QString() : QString::number(article.toInt()),
                       difference[QStringLiteral("name")].toString(),
-                      QStringLiteral("local %1").arg(sideText(difference, QStringLiteral("local"))),
-                      QStringLiteral("server %1").arg(sideText(difference, QStringLiteral("server")))},
+                      tr("local %1").arg(sideText(difference, QStringLiteral("local"))),
+                      tr("server %1").arg(sideText(difference, QStringLiteral("server")))},
                      {1, 8, 12, 6, 40, 28, 0});
     }
 }

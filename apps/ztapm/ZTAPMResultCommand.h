@@ -9,6 +9,8 @@
 // compares it with the local quote of a basket line by line.
 class ZTAPMResultCommand : public ZTAPMCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMResultCommand)
+
 public:
     QString name() const override;
     QString synopsis() const override;

@@ -277,6 +277,56 @@ private Q_SLOTS:
         QCOMPARE((*photoPack)[QStringLiteral("package")].toString(), photoPackText);
     }
 
+    // The command's texts in German: whole lines, with the keywords of JSON translated where the
+    // text shows them (the readers' findings stay in the log's language); the JSON and the exit
+    // status are the same as in English.
+    void commandsInGerman_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("line");
+        const QStringList result{
+            QStringLiteral("result"),     QStringLiteral(ZT_TEST_DATA_DIR "/result-changed/result.xml"),
+            QStringLiteral("--shipment"), QStringLiteral("2"),
+            QStringLiteral("--basket"),   QStringLiteral("1001:3"),
+            QStringLiteral("7003:4"),     QStringLiteral("3002:120"),
+            QStringLiteral("4001:1"),     QStringLiteral("5003:1")};
+        QTest::newRow("result head") << result << 0
+                                     << "Bestellberechnung " ZT_TEST_DATA_DIR
+                                        "/result-changed/result.xml, Bestellweg FM, Zahlart 3";
+        QTest::newRow("result fee without article") << result << 0 << "  Expressgebühr: keine";
+        QTest::newRow("result fee with article") << result << 0 << "  Zahlungsgebühr (Artikel 9202): 1,50 €";
+        QTest::newRow("result shipping dates")
+            << result << 0 << "  Versandtermine: Standard 2026-12-07 bis 2026-12-09, Express 2026-12-03";
+        QTest::newRow("result express types") << result << 0 << "Expressarten aller Rechnungen: Standard";
+        QTest::newRow("result difference") << result << 0
+                                           << "  Gruppe 16 Position     3002   Abzug 10x15                   "
+                                              "           lokal 18,00 € (b:2)          "
+                                              "Server 19,20 € (b:2)";
+        const QStringList check{QStringLiteral("check"), QStringLiteral("--data"),
+                                QStringLiteral(ZT_TEST_DATA_DIR "/check-broken")};
+        QTest::newRow("check finding") << check << 5
+                                       << "deliverytimes.xml:10:5: Warnung: delivery times for article 8889, "
+                                          "which the products document does "
+                                          "not have";
+        QTest::newRow("check counts") << check << 5 << "3 Fehler, 6 Warnungen, 4 Hinweise";
+    }
+    void commandsInGerman()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, exitCode);
+        QFETCH(QString, line);
+        const QStringList german{QStringLiteral("--lang"), QStringLiteral("de")};
+        const Run text = ztapm(german + arguments);
+        QCOMPARE(text.exitCode, exitCode);
+        // Amounts keep their no-break space before the currency; the rows write a plain one.
+        const QString out = QString::fromUtf8(text.out).replace(QChar(0xa0), QLatin1Char(' '));
+        QVERIFY2(out.split(QLatin1Char('\n')).contains(line), text.out.constData());
+        const Run json = ztapm(german + arguments << QStringLiteral("--json"));
+        QCOMPARE(json.exitCode, exitCode);
+        QCOMPARE(json.json(), ztapm(arguments << QStringLiteral("--json")).json());
+    }
+
     void demoMillionPiecesHaveNoPrice()
     {
         const Run run = ztapm({QStringLiteral("price"), QStringLiteral("1001"), QStringLiteral("1000000")});
