@@ -2,11 +2,11 @@
 
 #include "ZTProgramConfig.h"
 
+#include "ZTMutexLocker.h"
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QList>
 #include <QMutex>
-#include "ZTMutexLocker.h"
 #include <QRegularExpression>
 #include <QTranslator>
 

@@ -23,9 +23,8 @@ bool readPriceRow(const QDomElement& thePriceElement, ZTAPMPriceKey* theKey, ZTA
     if (value.discountModel().isNull()) {
         if (ZTDiagnosticCollector::isCollecting())
             ZTDiagnosticCollector::report(
-                ZTDiagnostic::Warning,
-                QStringLiteral("price row dropped: type \"%1\" is no discount model")
-                    .arg(thePriceElement.attribute(QStringLiteral("type"))));
+                ZTDiagnostic::Warning, QStringLiteral("price row dropped: type \"%1\" is no discount model")
+                                           .arg(thePriceElement.attribute(QStringLiteral("type"))));
         return false;
     }
     *theKey = ZTAPMPriceKey(ZTOrderSource(thePriceElement), value.discountLevel(), value.discountModel());
