@@ -4,6 +4,7 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <cstring>
 
 // Passes the source through while it counts the attributes of each start tag on the raw text,
 // and ends the stream at the first tag with too many. It knows just enough of XML to find start
@@ -30,6 +31,14 @@ protected:
             return read;
         if (myUnitWidth == 0)
             detectUnits(theData, read);
+        if (myUnitWidth == 1) {
+            const qint64 breach = scanBytes(theData, read);
+            countLines(theData, breach < 0 ? read : breach + 1);
+            if (breach < 0)
+                return read;
+            myBreached = true;
+            return breach;
+        }
         for (qint64 i = 0; i < read; ++i) {
             if (!feedByte(uchar(theData[i]))) {
                 myBreached = true;
@@ -81,16 +90,50 @@ private:
         }
     }
 
+    // Feeds single-byte text; the index of the byte that breaks the limit, or -1. Text between
+    // tags and quoted values are the long stretches, and in them only one byte matters.
+    qint64 scanBytes(const char* theData, qint64 theSize)
+    {
+        qint64 i = 0;
+        while (i < theSize) {
+            if (myState == Text || myState == AttributeValue) {
+                const char wanted = myState == Text ? '<' : char(myQuote);
+                const void* found = std::memchr(theData + i, wanted, size_t(theSize - i));
+                if (!found)
+                    break;
+                i = static_cast<const char*>(found) - theData;
+            }
+            if (!feed(uchar(theData[i])))
+                return i;
+            ++i;
+        }
+        return -1;
+    }
+
+    // Where the bytes fed leave the line and the column: the column counts the units of the line
+    // up to the last one fed, as the stream reader counts them.
+    void countLines(const char* theData, qint64 theSize)
+    {
+        const qint64 newlines = std::count(theData, theData + theSize, '\n');
+        if (newlines == 0) {
+            myColumn += theSize;
+            return;
+        }
+        myLine += newlines;
+        const qint64 last = static_cast<const char*>(memrchr(theData, '\n', size_t(theSize))) - theData;
+        myColumn = theSize - last - 1;
+    }
+
+    // Feeds text of wider units a byte at a time.
     bool feedByte(uchar theByte)
     {
-        if (myUnitWidth == 1)
-            return feed(theByte);
         myUnit = myBigEndian ? (myUnit << 8) | theByte : myUnit | (quint32(theByte) << (8 * myUnitBytes));
         if (++myUnitBytes < myUnitWidth)
             return true;
         const quint32 unit = myUnit;
         myUnit = 0;
         myUnitBytes = 0;
+        countLine(unit);
         return feed(unit);
     }
 
@@ -104,14 +147,18 @@ private:
     }
 
     // False at the unit that breaks the limit.
-    bool feed(quint32 theUnit)
+    void countLine(quint32 theUnit)
     {
         if (theUnit == '\n') {
             ++myLine;
-            myColumn = 1;
+            myColumn = 0;
         } else {
             ++myColumn;
         }
+    }
+
+    bool feed(quint32 theUnit)
+    {
         switch (myState) {
         case Text:
             if (theUnit == '<')

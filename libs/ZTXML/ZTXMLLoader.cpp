@@ -71,29 +71,23 @@ struct TokenStart
 class ElementBuilder
 {
 public:
-    bool isBuilding() const { return !myDocument.isNull(); }
+    bool isBuilding() const { return !myCurrent.isNull(); }
 
     // Takes a token; true when it closed the element, which element() then gives.
     bool take(const QXmlStreamReader& theReader)
     {
         switch (theReader.tokenType()) {
         case QXmlStreamReader::StartElement: {
-            if (!isBuilding()) {
-                // A fresh document has no body until it creates its first node, so the element
-                // goes in through the document itself rather than through a copy of it.
-                myDocument = QDomDocument();
-                myCurrent = QDomNode();
-            }
-            QDomElement element = myDocument.createElement(theReader.qualifiedName().toString());
+            QDomElement element = myDocument.createElement(name(theReader.qualifiedName()));
             const QXmlStreamAttributes attributes = theReader.attributes();
             for (const QXmlStreamAttribute& attribute : attributes)
-                element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
+                element.setAttribute(name(attribute.qualifiedName()), attribute.value().toString());
             myCurrent = myCurrent.isNull() ? myDocument.appendChild(element) : myCurrent.appendChild(element);
             break;
         }
         case QXmlStreamReader::EndElement:
             myCurrent = myCurrent.parentNode();
-            return myCurrent.isNull() || myCurrent.isDocument();
+            return myCurrent.isDocument();
         case QXmlStreamReader::Characters:
             if (theReader.isCDATA())
                 myCurrent.appendChild(myDocument.createCDATASection(theReader.text().toString()));
@@ -106,18 +100,35 @@ public:
         return false;
     }
 
-    // The element built, once; the builder is then free for the next.
+    // The element built, once; the builder is then free for the next, which it builds in the same
+    // document, as the element leaves it.
     QDomElement element()
     {
         const QDomElement result = myDocument.documentElement();
-        myDocument = QDomDocument();
+        myDocument.removeChild(result);
         myCurrent = QDomNode();
         return result;
     }
 
 private:
-    QDomDocument myDocument; // of the element being built, null between elements
-    QDomNode myCurrent;      // innermost open node of that element
+    // Names repeat from element to element: the same few strings are shared rather than made anew.
+    QString name(QStringView theName)
+    {
+        for (const QString& known : std::as_const(myNames)) {
+            if (known == theName)
+                return known;
+        }
+        const QString made = theName.toString();
+        if (myNames.size() < maxNames)
+            myNames.append(made);
+        return made;
+    }
+
+    static constexpr qsizetype maxNames = 64;
+
+    QDomDocument myDocument; // holds the element being built, empty between elements
+    QDomNode myCurrent;      // innermost open node of that element, null between elements
+    QList<QString> myNames;
 };
 
 // Maps the reader's character offsets, in UTF-16 units, to byte offsets in UTF-8 text; offsets

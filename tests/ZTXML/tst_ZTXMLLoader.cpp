@@ -191,6 +191,38 @@ private Q_SLOTS:
             QCOMPARE(read, streamed);
         }
     }
+
+    // The refusal names the attribute that breaks the limit, counted the same in text of one byte
+    // a unit, which is scanned in stretches, and in text of two.
+    void attributeRefusalNamesItsPlace_data()
+    {
+        QTest::addColumn<QByteArray>("document");
+        QByteArray tag = "<article";
+        for (int i = 0; i < 300; ++i)
+            tag += " a" + QByteArray::number(i) + "=\"" + QByteArray::number(i) + "\"";
+        // Newlines in a comment, a value and text, which the scan passes over in one stretch, and
+        // quotes of the other kind in values.
+        const QByteArray document = "<root>\n<!-- = \n -->\n<articles>\n<x v='a\n\"b=' w=\"'\"> \n</x>\n" +
+                                    tag + "/></articles></root>";
+        QTest::newRow("UTF-8") << document;
+        QTest::newRow("UTF-16") << toUtf16(document);
+    }
+
+    void attributeRefusalNamesItsPlace()
+    {
+        QFETCH(QByteArray, document);
+        QTemporaryDir directory;
+        QFile file(directory.filePath(QStringLiteral("document.xml")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(document);
+        file.close();
+        // The 257th "=" of the line the element starts on.
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral(
+                                 "at line 8, column 2610: an element with more than 256 attributes$")));
+        QVERIFY(!ZTXMLLoader::forEachSectionElement(QFileInfo(file.fileName()), {QStringLiteral("articles")},
+                                                    [](qsizetype, const QDomElement&) {}));
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_ZTXMLLoader)

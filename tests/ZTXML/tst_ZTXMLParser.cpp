@@ -4,6 +4,9 @@
 #include <QDomDocument>
 #include <QTest>
 
+#include <QRandomGenerator>
+
+#include <cstring>
 #include <limits>
 
 // Readers must never fail loudly: a malformed value gives the caller's default.
@@ -112,6 +115,32 @@ private Q_SLOTS:
         const ZTDistanceUnit mm(ZTDistanceUnitMillimetre);
         QCOMPARE(ZTXMLParser::readDistance(e, QStringLiteral("width"), 7.0, mm).pixels(), pixels);
         QCOMPARE(ZTXMLParser::readDistance(e, QStringLiteral("height"), 7.0, mm).pixels(), 70.0);
+    }
+
+    // Plain decimals take a quicker road than the general conversion: the values must not differ
+    // in a single bit.
+    void readDistanceAgreesWithTheGeneralConversion()
+    {
+        QDomDocument document;
+        QDomElement e = document.createElement(QStringLiteral("page"));
+        // Pixels, so that the value read is the distance, below the longest one accepted.
+        const ZTDistanceUnit unit(ZTDistanceUnitPixel);
+        QRandomGenerator random(1511);
+        for (int i = 0; i < 20000; ++i) {
+            const int whole = int(random.bounded(1, 8));
+            const int fraction = int(random.bounded(0, 16 - whole));
+            QString text = random.bounded(4) == 0 ? QStringLiteral("-") : QString();
+            for (int d = 0; d < whole + fraction; ++d) {
+                if (d == whole)
+                    text += QLatin1Char('.');
+                text += QLatin1Char(char('0' + random.bounded(10)));
+            }
+            e.setAttribute(QStringLiteral("width"), text);
+            const double expected = ZTDistance(text.toDouble(), unit).pixels();
+            const double read = ZTXMLParser::readDistance(e, QStringLiteral("width"), 7.0, unit).pixels();
+            if (std::memcmp(&read, &expected, sizeof read) != 0)
+                QFAIL(qPrintable(text));
+        }
     }
 
     void childTexts()

@@ -104,6 +104,15 @@ public:
             }));
     }
 
+    // Reads the document now if the store has not read it yet, as its first question would: for
+    // a caller that would rather have the reading overlap with other work than wait for it later.
+    void prepare() const
+    {
+        ZTWriteLocker writer(&myLock);
+        if (!myLoaded)
+            load();
+    }
+
     // One reading of the store's document, made by the store itself or by someone who reads the
     // same document for other ends as well, so that a big document is read once. It holds the
     // write lock from construction to its end: readers wait, as they wait for load(). Elements

@@ -41,19 +41,13 @@ ZTAPMCatalogueCheck::ZTAPMCatalogueCheck()
     , myDeliveryTimesFile(filePath(ZTResourceFile(ZTKeyAccountDataType(ZTKeyAccountDataTypeDeliveryTimes))))
     , myOrderingDetailsFile(filePath(ZTResourceFile(ZTResourceFileTypeOrderingDetails)))
 {
+    // Installed before the start-up, so that every reading of it collects; the data base reads
+    // the prices and delivery times beside the products.
     myCollector.install();
-    // Made here, so that the object lives in the calling thread, not in the reading's.
-    const ZTAPMObjects* objects = ZTSingleton<ZTAPMObjects>::instance();
-    myReading = std::thread([objects] {
-        objects->articlePrices().load();
-        objects->articleDeliveryTimes().load();
-    });
 }
 
 ZTAPMCatalogueCheck::~ZTAPMCatalogueCheck()
 {
-    if (myReading.joinable())
-        myReading.join();
     myCollector.uninstall();
 }
 
@@ -64,8 +58,6 @@ QList<ZTDiagnostic> ZTAPMCatalogueCheck::run()
     ZTSingleton<ZTCurrencyConfig>::instance();
     ZTSingleton<ZTOrderingDetails>::instance();
     ZTSingleton<ZTAPMDataBase>::instance();
-    if (myReading.joinable())
-        myReading.join();
 
     // A document that is missing or does not parse would make every element of the others look
     // orphaned; the readers report nothing else as an error.

@@ -8,8 +8,6 @@
 #include <QList>
 #include <QStringList>
 
-#include <thread>
-
 class ZTArticleId;
 
 // A check of a key account's documents for the people who write them. It collects what the
@@ -20,8 +18,8 @@ class ZTArticleId;
 // named shipping group without products.
 //
 // The check is made before the engine's start-up: from then on every reading reports into it,
-// and the prices and delivery times, which the start-up leaves for their first question, are read
-// on a thread of their own beside it. run() then answers everything, sorted.
+// the prices and delivery times included, which the start-up reads beside the products. run()
+// then answers everything, sorted.
 class ZTAPM_EXPORT ZTAPMCatalogueCheck
 {
 public:
@@ -46,7 +44,6 @@ private:
     bool wasRead(const QString& theFile) const;
 
     ZTDiagnosticCollector myCollector;
-    std::thread myReading;
     QString myProductsFile;
     QString myPricesFile;
     QString myDeliveryTimesFile;

@@ -30,9 +30,11 @@
 #include <QDomElement>
 #include <QFileInfo>
 #include <QRecursiveMutex>
+#include <QScopeGuard>
 #include <QSet>
 
 #include <algorithm>
+#include <thread>
 
 namespace {
 
@@ -360,7 +362,16 @@ void ZTAPMDataBase::loadAllProductsFrom(const QFileInfo& theFile)
     QStringList keyWords;
     for (const ZTProductRegistryAbstract* registry : registryList)
         keyWords += registry->xmlKeyWords();
-    const ZTAPMArticleDefinitions& definitions = ZTSingleton<ZTAPMObjects>::instance()->articleDefinitions();
+    const ZTAPMObjects* objects = ZTSingleton<ZTAPMObjects>::instance();
+    const ZTAPMArticleDefinitions& definitions = objects->articleDefinitions();
+    // The first price question after start-up would wait for the prices store to read its
+    // document; a store that has not read it yet does so now, on a second core, while the
+    // products are read. Each store reads under its own lock, so the answers are the same.
+    std::thread stores([objects] {
+        objects->articlePrices().prepare();
+        objects->articleDeliveryTimes().prepare();
+    });
+    const auto joinStores = qScopeGuard([&stores] { stores.join(); });
     ZTAPMProductsReading reading(keyWords);
     // The store's lock is given up before the data base's is taken, which comes first.
     if (!reading.read(theFile, definitions.wantsReadingOf(theFile) ? &definitions : nullptr))
