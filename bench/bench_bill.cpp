@@ -5,10 +5,8 @@
 // usage: bench_bill DIR   (a key account, e.g. one written by generate_keyaccount)
 
 #include "ZTAPMBill.h"
-#include "ZTAPMDataBase.h"
-#include "ZTInitializer.h"
+#include "ZTBenchKeyAccount.h"
 #include "ZTProductAbstract.h"
-#include "ZTProgramConfig.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -19,16 +17,6 @@
 #include <cstdio>
 #include <vector>
 
-namespace {
-
-void quietMessages(QtMsgType type, const QMessageLogContext&, const QString& message)
-{
-    if (type != QtDebugMsg && type != QtInfoMsg)
-        std::fprintf(stderr, "%s\n", qPrintable(message));
-}
-
-} // namespace
-
 int main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
@@ -37,20 +25,10 @@ int main(int argc, char* argv[])
         std::fprintf(stderr, "usage: bench_bill DIR\n");
         return 2;
     }
-    qInstallMessageHandler(quietMessages);
-    ZTSingleton<ZTProgramConfig>::instance()->setKeyAccountDirectory(
-        QFileInfo(arguments.at(1)).absoluteFilePath());
-    ZTSingleton<ZTInitializer>::instance()->setupAll();
-
-    // The generator numbers its articles from 100000 on, without gaps.
-    const ZTAPMDataBase* catalogue = ZTSingleton<ZTAPMDataBase>::instance();
+    ZTBenchKeyAccount::startEngine(arguments.at(1));
     QMap<ZTShippingGroupId, std::vector<ZTProductAbstract*>> byGroup;
-    for (qint32 id = 100000;; ++id) {
-        ZTProductAbstract* product = catalogue->productAbstract(ZTArticleId(id));
-        if (!product)
-            break;
+    for (ZTProductAbstract* product : ZTBenchKeyAccount::products())
         byGroup[product->shippingGroupId()].push_back(product);
-    }
     std::vector<ZTShippingGroupId> groups(byGroup.keyBegin(), byGroup.keyEnd());
     std::stable_sort(groups.begin(), groups.end(),
                      [&](const ZTShippingGroupId& a, const ZTShippingGroupId& b) {

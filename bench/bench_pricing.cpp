@@ -6,15 +6,13 @@
 // usage: bench_pricing DIR   (a key account, e.g. one written by generate_keyaccount)
 
 #include "ZTAPMArticlePriceInfo.h"
-#include "ZTAPMDataBase.h"
 #include "ZTAPMObjects.h"
-#include "ZTInitializer.h"
+#include "ZTBenchKeyAccount.h"
 #include "ZTProductAbstract.h"
-#include "ZTProgramConfig.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 
 #include <cstdio>
 #include <vector>
@@ -22,12 +20,6 @@
 #include <time.h>
 
 namespace {
-
-void quietMessages(QtMsgType type, const QMessageLogContext&, const QString& message)
-{
-    if (type != QtDebugMsg && type != QtInfoMsg)
-        std::fprintf(stderr, "%s\n", qPrintable(message));
-}
 
 const char* sourceName(const ZTOrderSource& theSource)
 {
@@ -57,20 +49,8 @@ int main(int argc, char* argv[])
         std::fprintf(stderr, "usage: bench_pricing DIR\n");
         return 2;
     }
-    qInstallMessageHandler(quietMessages);
-    ZTSingleton<ZTProgramConfig>::instance()->setKeyAccountDirectory(
-        QFileInfo(arguments.at(1)).absoluteFilePath());
-    ZTSingleton<ZTInitializer>::instance()->setupAll();
-
-    // The generator numbers its articles from 100000 on, without gaps.
-    const ZTAPMDataBase* catalogue = ZTSingleton<ZTAPMDataBase>::instance();
-    std::vector<const ZTProductAbstract*> products;
-    for (qint32 id = 100000;; ++id) {
-        const ZTProductAbstract* product = catalogue->productAbstract(ZTArticleId(id));
-        if (!product)
-            break;
-        products.push_back(product);
-    }
+    ZTBenchKeyAccount::startEngine(arguments.at(1));
+    const std::vector<ZTProductAbstract*> products = ZTBenchKeyAccount::products();
     if (products.empty()) {
         std::fprintf(stderr, "bench_pricing: %s holds no products\n", qPrintable(arguments.at(1)));
         return 3;

@@ -19,13 +19,12 @@
 #include "ZTAPMObjects.h"
 #include "ZTAPMPriceKey.h"
 #include "ZTArticleId.h"
-#include "ZTInitializer.h"
+#include "ZTBenchKeyAccount.h"
 #include "ZTKeyAccount.h"
 #include "ZTMoney.h"
 #include "ZTOrderSource.h"
 #include "ZTProductAbstract.h"
 #include "ZTProductRegistry.h"
-#include "ZTProgramConfig.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -51,27 +50,15 @@ extern char** environ;
 namespace {
 
 // Only warnings and worse; the engine's info lines would distort nothing but the output.
-void quietMessages(QtMsgType type, const QMessageLogContext&, const QString& message)
-{
-    if (type != QtDebugMsg && type != QtInfoMsg)
-        std::fprintf(stderr, "%s\n", qPrintable(message));
-}
-
-// The article whose price is asked first; the generator numbers its articles from 100000 on.
-const ZTArticleId theFirstArticle(100000);
-
-void startEngine(const QString& theDirectory)
-{
-    ZTSingleton<ZTProgramConfig>::instance()->setKeyAccountDirectory(theDirectory);
-    ZTSingleton<ZTInitializer>::instance()->setupAll();
-}
+// The article whose price is asked first.
+const ZTArticleId& theFirstArticle = ZTBenchKeyAccount::firstArticle;
 
 // One start-up and one price question; prints how long each took, for the runner's breakdown.
 int runEngine(const QString& theDirectory)
 {
     QElapsedTimer timer;
     timer.start();
-    startEngine(theDirectory);
+    ZTBenchKeyAccount::startEngine(theDirectory);
     const qint64 startUp = timer.restart();
     const ZTProductAbstract* product =
         ZTSingleton<ZTAPMDataBase>::instance()->productAbstract(theFirstArticle);
@@ -92,7 +79,7 @@ int runEngine(const QString& theDirectory)
 // documents anew.
 int runReload(const QString& theDirectory)
 {
-    startEngine(theDirectory);
+    ZTBenchKeyAccount::startEngine(theDirectory);
     ZTSingleton<ZTAPMObjects>::instance()->priceInfo(theFirstArticle);
     QElapsedTimer timer;
     timer.start();
@@ -222,7 +209,7 @@ int main(int argc, char* argv[])
     QCoreApplication app(argc, argv);
     QStringList arguments = QCoreApplication::arguments();
     arguments.removeFirst();
-    qInstallMessageHandler(quietMessages);
+    ZTBenchKeyAccount::quietLog();
 
     if (arguments.size() == 2 && QFileInfo(arguments.at(1)).isDir()) {
         const QString directory = QFileInfo(arguments.at(1)).absoluteFilePath();
