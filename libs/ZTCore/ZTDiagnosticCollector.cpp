@@ -1,9 +1,12 @@
 #include "ZTDiagnosticCollector.h"
 
+#include "ZTEnumToStringTable.h"
 #include "ZTMutexLocker.h"
 
 #include <algorithm>
 #include <atomic>
+#include <cstdlib>
+#include <cxxabi.h>
 
 namespace {
 
@@ -23,6 +26,36 @@ QString elementKey(const QString& theFile, const QString& theTag, const QString&
     return theFile + QLatin1Char('\n') + theTag + QLatin1Char('\n') + theId;
 }
 
+// "18ZTArticleClassEnum" becomes "article class": the vocabulary as a document's author knows it.
+QString vocabularyName(const char* theEnumeration)
+{
+    int status = -1;
+    char* demangled = abi::__cxa_demangle(theEnumeration, nullptr, nullptr, &status);
+    QString name = QString::fromLatin1(status == 0 && demangled ? demangled : theEnumeration);
+    std::free(demangled);
+    if (name.startsWith(QLatin1String("ZT")))
+        name.remove(0, 2);
+    if (name.endsWith(QLatin1String("Enum")))
+        name.chop(4);
+    QString words;
+    for (const QChar c : std::as_const(name)) {
+        if (c.isUpper() && !words.isEmpty())
+            words += QLatin1Char(' ');
+        words += c.toLower();
+    }
+    return words;
+}
+
+void reportUnknownKeyword(const QString& theKeyword, const char* theEnumeration)
+{
+    // Only a keyword of a document being read has a place to point at.
+    if (theCurrent.file.isEmpty())
+        return;
+    ZTDiagnosticCollector::report(
+        ZTDiagnostic::Warning,
+        QStringLiteral("\"%1\" is no %2 keyword").arg(theKeyword, vocabularyName(theEnumeration)));
+}
+
 } // namespace
 
 ZTDiagnosticCollector::ZTDiagnosticCollector() = default;
@@ -35,12 +68,14 @@ ZTDiagnosticCollector::~ZTDiagnosticCollector()
 void ZTDiagnosticCollector::install()
 {
     theInstalled.store(this);
+    ZTUnknownKeywords::setReceiver(reportUnknownKeyword);
 }
 
 void ZTDiagnosticCollector::uninstall()
 {
     ZTDiagnosticCollector* expected = this;
-    theInstalled.compare_exchange_strong(expected, nullptr);
+    if (theInstalled.compare_exchange_strong(expected, nullptr))
+        ZTUnknownKeywords::setReceiver(nullptr);
 }
 
 void ZTDiagnosticCollector::add(const ZTDiagnostic& theDiagnostic)

@@ -1,6 +1,5 @@
 #include "ZTDistanceUnit.h"
 
-#include "ZTDiagnosticCollector.h"
 #include "ZTDistance.h"
 
 ZTDistanceUnit::ZTDistanceUnit(ZTDistanceUnitEnum theValue) : ZTEnumWrapper<ZTDistanceUnitEnum>(theValue)
@@ -10,11 +9,6 @@ ZTDistanceUnit::ZTDistanceUnit(const QString& theText)
 {
     // One keyword only: the CSV decoding of the wrapper would OR two units into nonsense.
     myValue = decodeOneElement(theText);
-    if (ZTDiagnosticCollector::isCollecting() && !theText.isEmpty() &&
-        enumToStringTable()->decode(theText, ZTDistanceUnitEnum(Table::notFoundMarker)) ==
-            ZTDistanceUnitEnum(Table::notFoundMarker))
-        ZTDiagnosticCollector::report(
-            ZTDiagnostic::Note, QStringLiteral("unknown unit \"%1\": the default unit is used").arg(theText));
 }
 
 double ZTDistanceUnit::pixelsPerUnit() const

@@ -12,6 +12,9 @@ ZTMaterialType::ZTMaterialType(const QString& theText)
 
 void ZTMaterialType::fillTable(ZTEnumToStringTable<ZTMaterialTypeEnum>* theTable) const
 {
+    // The same text is read as a paper type and as a material type; the definition tells of a
+    // keyword that both lack.
+    theTable->setTellsUnknownKeywords(false);
     ZTKeywordTableFiller<ZTMaterialTypeEnum>(theTable)
         .add("poster_paper", ZTMaterialTypePosterPaper)
         .add("wood", ZTMaterialTypeWood)

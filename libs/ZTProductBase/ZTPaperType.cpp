@@ -12,6 +12,9 @@ ZTPaperType::ZTPaperType(const QString& theText)
 
 void ZTPaperType::fillTable(ZTEnumToStringTable<ZTPaperTypeEnum>* theTable) const
 {
+    // The same text is read as a paper type and as a material type; the definition tells of a
+    // keyword that both lack.
+    theTable->setTellsUnknownKeywords(false);
     ZTKeywordTableFiller<ZTPaperTypeEnum>(theTable)
         .add("matt", ZTPaperTypeMatt)
         .alias("matte", ZTPaperTypeMatt)

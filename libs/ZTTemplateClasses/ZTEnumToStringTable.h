@@ -16,6 +16,29 @@
 #include <type_traits>
 #include <typeinfo>
 
+// Where keywords that decode to nothing are told: a host that checks documents sets a receiver,
+// which then learns of each such keyword with the mangled name of its enumeration. Without one,
+// telling costs one atomic load. One receiver exists per process, as one table per enumeration.
+class ZT_TEMPLATE_EXPORT ZTUnknownKeywords
+{
+public:
+    using Receiver = void (*)(const QString& theKeyword, const char* theEnumeration);
+
+    static void setReceiver(Receiver theReceiver) { receiver().store(theReceiver); }
+    static void tell(const QString& theKeyword, const char* theEnumeration)
+    {
+        if (const Receiver current = receiver().load(std::memory_order_relaxed))
+            current(theKeyword, theEnumeration);
+    }
+
+private:
+    static std::atomic<Receiver>& receiver()
+    {
+        static std::atomic<Receiver> theReceiver{nullptr};
+        return theReceiver;
+    }
+};
+
 // The keyword table of one enumeration: keywords decode without regard to case and surrounding
 // blanks, a value encodes as the keyword that was inserted first for it. One table exists per
 // enumeration and process; it is filled once and read without a lock afterwards.
@@ -39,6 +62,9 @@ public:
     }
 
     void setDefaultValue(ENUM theValue) { myDefaultValue = theValue; }
+    // Whether a keyword that decodes to nothing is told to ZTUnknownKeywords: by default it is.
+    // A table whose decoding of a text is one guess among others says no.
+    void setTellsUnknownKeywords(bool theTells) { myTellsUnknownKeywords = theTells; }
     ENUM defaultValue() const { return myDefaultValue; }
     void setUnknownKeyword(const QString& theKeyword) { myUnknownKeyword = theKeyword; }
     QString unknownKeyword() const { return myUnknownKeyword; }
@@ -53,6 +79,7 @@ public:
         const ENUM found = decode(text, ENUM(notFoundMarker));
         if (Int(found) != notFoundMarker)
             return found;
+        tellUnknown(text);
         if (warn && !text.isEmpty())
             qWarning() << "undecodable:" << text << "(using default in" << typeid(ENUM).name() << ")";
         return myDefaultValue;
@@ -63,6 +90,8 @@ public:
         Int result = 0;
         for (const QString& part : text.split(QLatin1Char(','))) {
             const ENUM found = decode(part, ENUM(notFoundMarker));
+            if (Int(found) == notFoundMarker)
+                tellUnknown(part);
             result |= Int(found) != notFoundMarker ? Int(found) : Int(myDefaultValue);
         }
         return ENUM(result);
@@ -134,10 +163,17 @@ public:
     }
 
 private:
+    void tellUnknown(const QString& theText) const
+    {
+        if (myTellsUnknownKeywords && !theText.trimmed().isEmpty())
+            ZTUnknownKeywords::tell(theText.trimmed(), typeid(ENUM).name());
+    }
+
     QHash<QString, ENUM> myDecodeTable;
     QHash<Int, QString> myEncodeTable;
     QString myUnknownKeyword;
     ENUM myDefaultValue = ENUM(0);
+    bool myTellsUnknownKeywords = true;
 };
 
 // A typed value of one keyword vocabulary. Used as a plain enumeration or as a bit set; the

@@ -1,10 +1,15 @@
 #include "ZTDiagnosticCollector.h"
+#include "ZTDistanceUnit.h"
+#include "ZTKeyAccountDataType.h"
 #include "ZTXMLLoader.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <optional>
 
 // The findings of document readers: where the loader says they stand, and the collector's order.
 class tst_ZTDiagnostics : public QObject
@@ -123,6 +128,54 @@ private Q_SLOTS:
             actual,
             (QStringList{QStringLiteral("a.xml 9:9 note first file"), QStringLiteral("b.xml 2:1 warning w"),
                          QStringLiteral("b.xml 2:1 note n"), QStringLiteral("b.xml 10:1 note later line")}));
+    }
+
+    // A keyword that a vocabulary lacks is a finding where a document is being read, in a list
+    // and alone; known keywords, blanks and decoding outside a document are not.
+    void unknownKeywords_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("list");
+        QTest::addColumn<bool>("inDocument");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("one keyword") << "furlong" << false << true
+                                     << QStringList{
+                                            QStringLiteral("\"furlong\" is no distance unit keyword")};
+        QTest::newRow("known keyword") << " MM " << false << true << QStringList();
+        QTest::newRow("blank") << "  " << false << true << QStringList();
+        QTest::newRow("outside a document") << "furlong" << false << false << QStringList();
+        QTest::newRow("in a list") << "prices, recipes,,products" << true << true
+                                   << QStringList{
+                                          QStringLiteral("\"recipes\" is no key account data type keyword")};
+    }
+    void unknownKeywords()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, list);
+        QFETCH(bool, inDocument);
+        QFETCH(QStringList, expected);
+        const auto decode = [&] {
+            std::optional<ZTDiagnosticCollector::Location> location;
+            if (inDocument)
+                location.emplace(QStringLiteral("document.xml"), 3, 5);
+            if (list)
+                ZTKeyAccountDataType().decodeCSV(text);
+            else
+                (void)ZTDistanceUnit(text);
+        };
+        // The log's own line for an unknown single keyword stays.
+        const bool logged = !list && text == QLatin1String("furlong");
+        if (logged)
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^undecodable:")));
+        QStringList found;
+        {
+            ZTDiagnosticCollector collector;
+            collector.install();
+            decode();
+            for (const ZTDiagnostic& finding : collector.diagnostics())
+                found << finding.message();
+        }
+        QCOMPARE(found, expected);
     }
 };
 

@@ -89,6 +89,13 @@ ZTAPMArticleDefinitionImpl::ZTAPMArticleDefinitionImpl(const QDomElement& theEle
     const QString material = type.attribute(QStringLiteral("material"));
     myPaperType = ZTPaperType(material);
     const ZTMaterialType materialType(material);
+    // Neither table tells of a keyword it lacks, as the other may know it; one that both lack is
+    // told here.
+    if (ZTDiagnosticCollector::isCollecting() && !material.trimmed().isEmpty() && myPaperType.isNull() &&
+        materialType.isNull())
+        ZTDiagnosticCollector::report(
+            ZTDiagnostic::Warning,
+            QStringLiteral("\"%1\" is no paper type or material type keyword").arg(material.trimmed()));
 
     myArticleClass = detectArticleClass(theElement.nodeName(), materialType, myCoverType);
 
