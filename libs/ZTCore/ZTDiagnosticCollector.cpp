@@ -17,13 +17,26 @@ struct CurrentLocation
     QString file;
     int line = 0;
     int column = 0;
+    // Elements noted in the file, kept on the reading thread until it leaves the file: two
+    // threads that read documents at once would otherwise take turns at the collector's lock for
+    // every element.
+    QList<ZTDiagnosticCollector::ElementPlace> pending;
 };
 
 thread_local CurrentLocation theCurrent;
 
-QString elementKey(const QString& theFile, const QString& theTag, const QString& theId)
+QString elementKey(const QString& theTag, const QString& theId)
 {
-    return theFile + QLatin1Char('\n') + theTag + QLatin1Char('\n') + theId;
+    return theTag + QLatin1Char('\n') + theId;
+}
+
+void handOverPending()
+{
+    if (theCurrent.pending.isEmpty())
+        return;
+    if (ZTDiagnosticCollector* collector = theInstalled.load())
+        collector->noteElements(theCurrent.file, theCurrent.pending);
+    theCurrent.pending.clear();
 }
 
 // "18ZTArticleClassEnum" becomes "article class": the vocabulary as a document's author knows it.
@@ -96,21 +109,26 @@ QList<ZTDiagnostic> ZTDiagnosticCollector::diagnostics() const
     return result;
 }
 
-void ZTDiagnosticCollector::noteElement(const QString& theFile, const QString& theTag, const QString& theId,
-                                        int theLine, int theColumn)
+void ZTDiagnosticCollector::noteElements(const QString& theFile, const QList<ElementPlace>& thePlaces)
 {
-    const QString key = elementKey(theFile, theTag, theId);
     ZTMutexLocker<QMutex> locker(&myMutex);
-    if (!myElements.contains(key))
-        myElements.insert(key, qMakePair(theLine, theColumn));
+    QHash<QString, QPair<int, int>>& elements = myElements[theFile];
+    for (const ElementPlace& place : thePlaces) {
+        const QString key = elementKey(place.tag, place.id);
+        if (!elements.contains(key))
+            elements.insert(key, qMakePair(place.line, place.column));
+    }
 }
 
 bool ZTDiagnosticCollector::elementPosition(const QString& theFile, const QString& theTag,
                                             const QString& theId, int* theLine, int* theColumn) const
 {
     ZTMutexLocker<QMutex> locker(&myMutex);
-    const auto found = myElements.constFind(elementKey(theFile, theTag, theId));
-    if (found == myElements.cend())
+    const auto file = myElements.constFind(theFile);
+    if (file == myElements.cend())
+        return false;
+    const auto found = file->constFind(elementKey(theTag, theId));
+    if (found == file->cend())
         return false;
     *theLine = found->first;
     *theColumn = found->second;
@@ -139,13 +157,18 @@ void ZTDiagnosticCollector::reportAt(ZTDiagnostic::Severity theSeverity, int the
 
 void ZTDiagnosticCollector::noteElementHere(const QString& theTag, const QString& theId)
 {
-    if (ZTDiagnosticCollector* collector = theInstalled.load())
-        collector->noteElement(theCurrent.file, theTag, theId, theCurrent.line, theCurrent.column);
+    if (!theInstalled.load())
+        return;
+    theCurrent.pending.append(ElementPlace{theTag, theId, theCurrent.line, theCurrent.column});
+    if (theCurrent.file.isEmpty())
+        handOverPending();
 }
 
 ZTDiagnosticCollector::Location::Location(const QString& theFile, int theLine, int theColumn)
     : myPreviousFile(theCurrent.file), myPreviousLine(theCurrent.line), myPreviousColumn(theCurrent.column)
 {
+    if (theFile != theCurrent.file)
+        handOverPending();
     theCurrent.file = theFile;
     theCurrent.line = theLine;
     theCurrent.column = theColumn;
@@ -153,6 +176,8 @@ ZTDiagnosticCollector::Location::Location(const QString& theFile, int theLine, i
 
 ZTDiagnosticCollector::Location::~Location()
 {
+    if (myPreviousFile != theCurrent.file)
+        handOverPending();
     theCurrent.file = myPreviousFile;
     theCurrent.line = myPreviousLine;
     theCurrent.column = myPreviousColumn;

@@ -36,8 +36,16 @@ public:
     // problem of an element once.
     QList<ZTDiagnostic> diagnostics() const;
 
-    void noteElement(const QString& theFile, const QString& theTag, const QString& theId, int theLine,
-                     int theColumn);
+    // Where an element with an id stands in its file.
+    struct ElementPlace
+    {
+        QString tag;
+        QString id;
+        int line;
+        int column;
+    };
+    // Under one lock for a whole reading; a place noted earlier for the same key stays.
+    void noteElements(const QString& theFile, const QList<ElementPlace>& thePlaces);
     // The place of the first element noted with that tag and id in the file; false if none.
     bool elementPosition(const QString& theFile, const QString& theTag, const QString& theId, int* theLine,
                          int* theColumn) const;
@@ -49,7 +57,8 @@ public:
     // In the current file at the given place; a line below 1 keeps the current place.
     static void reportAt(ZTDiagnostic::Severity theSeverity, int theLine, int theColumn,
                          const QString& theMessage);
-    // The element at the current location, for the index.
+    // The element at the current location, for the index. The calling thread keeps it until it
+    // leaves the current file (a Location of another file begins or ends).
     static void noteElementHere(const QString& theTag, const QString& theId);
 
     // Where a reader of the calling thread stands: a file, and the line and column of the element
@@ -74,8 +83,8 @@ public:
 private:
     mutable QMutex myMutex;
     QList<ZTDiagnostic> myDiagnostics;
-    // "file\ntag\nid" to line and column.
-    QHash<QString, QPair<int, int>> myElements;
+    // File to "tag\nid" to line and column.
+    QHash<QString, QHash<QString, QPair<int, int>>> myElements;
 };
 
 #endif // ZTDIAGNOSTICCOLLECTOR_H

@@ -92,16 +92,19 @@ void ZTAPMCatalogueCheck::checkArticles()
         if (product->isDeprecated())
             continue;
         const ZTAPMArticlePriceInfo prices = objects->priceInfo(product->articleId());
-        const QList<ZTAPMPriceKey> keys = prices.priceValues().keys();
-        const bool priced = std::any_of(keys.cbegin(), keys.cend(), [&sources](const ZTAPMPriceKey& theKey) {
-            return sources.contains(theKey.orderSource());
-        });
+        const ZTAPMPriceValues::Rows& rows = prices.priceValues().rows();
+        const bool priced =
+            std::any_of(rows.keyBegin(), rows.keyEnd(), [&sources](const ZTAPMPriceKey& theKey) {
+                return sources.contains(theKey.orderSource());
+            });
         const QString id = QString::number(product->articleId().id());
         if (!priced)
             add(ZTDiagnostic::Error, myProductsFile, productTags, id,
                 QStringLiteral("article %1 has no price for any order source").arg(id));
 
         const ZTArticleIdSet linked = objects->articleDefinition(product->articleId()).linkedArticleIds();
+        if (linked.isEmpty())
+            continue;
         QList<ZTArticleId> linkedIds(linked.cbegin(), linked.cend());
         std::sort(linkedIds.begin(), linkedIds.end());
         for (const ZTArticleId& linkedId : std::as_const(linkedIds)) {
