@@ -7,6 +7,7 @@
 #include <atomic>
 #include <cstdlib>
 #include <cxxabi.h>
+#include <utility>
 
 namespace {
 
@@ -35,7 +36,7 @@ void handOverPending()
     if (theCurrent.pending.isEmpty())
         return;
     if (ZTDiagnosticCollector* collector = theInstalled.load())
-        collector->noteElements(theCurrent.file, theCurrent.pending);
+        collector->noteElements(theCurrent.file, std::exchange(theCurrent.pending, {}));
     theCurrent.pending.clear();
 }
 
@@ -109,26 +110,35 @@ QList<ZTDiagnostic> ZTDiagnosticCollector::diagnostics() const
     return result;
 }
 
-void ZTDiagnosticCollector::noteElements(const QString& theFile, const QList<ElementPlace>& thePlaces)
+void ZTDiagnosticCollector::noteElements(const QString& theFile, QList<ElementPlace> thePlaces)
 {
     ZTMutexLocker<QMutex> locker(&myMutex);
-    QHash<QString, QPair<int, int>>& elements = myElements[theFile];
-    for (const ElementPlace& place : thePlaces) {
-        const QString key = elementKey(place.tag, place.id);
-        if (!elements.contains(key))
-            elements.insert(key, qMakePair(place.line, place.column));
-    }
+    ElementsOfFile& elements = myElements[theFile];
+    if (elements.places.isEmpty())
+        elements.places = std::move(thePlaces);
+    else
+        elements.places += thePlaces;
+    elements.index.clear();
 }
 
 bool ZTDiagnosticCollector::elementPosition(const QString& theFile, const QString& theTag,
                                             const QString& theId, int* theLine, int* theColumn) const
 {
     ZTMutexLocker<QMutex> locker(&myMutex);
-    const auto file = myElements.constFind(theFile);
-    if (file == myElements.cend())
+    const auto file = myElements.find(theFile);
+    if (file == myElements.end())
         return false;
-    const auto found = file->constFind(elementKey(theTag, theId));
-    if (found == file->cend())
+    // Most checks ask nothing; a check that asks builds the index of the file once.
+    QHash<QString, QPair<int, int>>& index = file->index;
+    if (index.isEmpty()) {
+        for (const ElementPlace& place : std::as_const(file->places)) {
+            const QString key = elementKey(place.tag, place.id);
+            if (!index.contains(key))
+                index.insert(key, qMakePair(place.line, place.column));
+        }
+    }
+    const auto found = index.constFind(elementKey(theTag, theId));
+    if (found == index.cend())
         return false;
     *theLine = found->first;
     *theColumn = found->second;

@@ -45,7 +45,7 @@ public:
         int column;
     };
     // Under one lock for a whole reading; a place noted earlier for the same key stays.
-    void noteElements(const QString& theFile, const QList<ElementPlace>& thePlaces);
+    void noteElements(const QString& theFile, QList<ElementPlace> thePlaces);
     // The place of the first element noted with that tag and id in the file; false if none.
     bool elementPosition(const QString& theFile, const QString& theTag, const QString& theId, int* theLine,
                          int* theColumn) const;
@@ -83,8 +83,13 @@ public:
 private:
     mutable QMutex myMutex;
     QList<ZTDiagnostic> myDiagnostics;
-    // File to "tag\nid" to line and column.
-    QHash<QString, QHash<QString, QPair<int, int>>> myElements;
+    struct ElementsOfFile
+    {
+        QList<ElementPlace> places;            // in the order noted
+        QHash<QString, QPair<int, int>> index; // "tag\nid" to the first place, made at the first question
+    };
+    // Made by queries too, which are const.
+    mutable QHash<QString, ElementsOfFile> myElements;
 };
 
 #endif // ZTDIAGNOSTICCOLLECTOR_H
