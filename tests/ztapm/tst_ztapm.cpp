@@ -319,12 +319,20 @@ private Q_SLOTS:
         QCOMPARE(json.json(), ztapm(arguments << QStringLiteral("--json")).json());
     }
 
-    // The findings of check in the language of the output, in the text and in the JSON; the
-    // places and severities are the same in both.
+    // The findings of check in the language of the output, the engine's and the host libraries'
+    // alike, in the text and in the JSON; the places and severities are the same in both.
     void checkInBothLanguages_data()
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("line");
+        QTest::newRow("engine, de")
+            << "de"
+            << "deliverytimes.xml:10:5: Warnung: Lieferzeiten für Artikel 8889, den das "
+               "Produktdokument nicht hat";
+        QTest::newRow("engine, en")
+            << "en"
+            << "deliverytimes.xml:10:5: warning: delivery times for article 8889, which "
+               "the products document does not have";
         QTest::newRow("ZTCore, de")
             << "de"
             << "products.xml:55:5: Warnung: \"furlong\" ist kein Schlüsselwort des Vokabulars "
