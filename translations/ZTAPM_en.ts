@@ -2,6 +2,95 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
+    <name>ZTAPMArticleDefinitionImpl</name>
+    <message>
+        <source>&quot;%1&quot; ist kein Schlüsselwort für Papier- oder Materialarten</source>
+        <translation>&quot;%1&quot; is no paper type or material type keyword</translation>
+    </message>
+    <message>
+        <source>Größen von Artikel %1: keine Länge von höchstens 1 km: %2</source>
+        <translation>sizes of article %1: no length of at most 1 km: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ZTAPMArticleDefinitions</name>
+    <message>
+        <source>Element %1 verworfen: es braucht eine ID, eine bekannte Klasse und eine Versandgruppe</source>
+        <translation>%1 dropped: it needs an id, a known class and a shipping group</translation>
+    </message>
+</context>
+<context>
+    <name>ZTAPMArticleDeliveryTimes</name>
+    <message>
+        <source>Lieferzeiten von %1 %2 verworfen: keine gültige Lieferzeit</source>
+        <translation>delivery times of %1 %2 dropped: no valid delivery time</translation>
+    </message>
+</context>
+<context>
+    <name>ZTAPMArticlePriceInfo</name>
+    <message>
+        <source>Preiszeile verworfen: Typ &quot;%1&quot; ist kein Rabattmodell</source>
+        <translation>price row dropped: type &quot;%1&quot; is no discount model</translation>
+    </message>
+    <message>
+        <source>&quot;y&quot;-Zeilen des Bestellwegs %1 werden als &quot;w&quot; gelesen: der Bestellweg hat ein Fotopaket</source>
+        <translation>&quot;y&quot; rows of order source %1 are read as &quot;w&quot;: the source has a photo package</translation>
+    </message>
+</context>
+<context>
+    <name>ZTAPMArticlePrices</name>
+    <message>
+        <source>Preise von %1 %2 verworfen: keine brauchbare Preiszeile</source>
+        <translation>prices of %1 %2 dropped: no usable price row</translation>
+    </message>
+    <message>
+        <source>Preise von %1 verworfen: keine ID</source>
+        <translation>prices of %1 dropped: no id</translation>
+    </message>
+</context>
+<context>
+    <name>ZTAPMCatalogueCheck</name>
+    <message>
+        <source>Preise für Artikel %1, den das Produktdokument nicht hat</source>
+        <translation>prices for article %1, which the products document does not have</translation>
+    </message>
+    <message>
+        <source>Lieferzeiten für Artikel %1, den das Produktdokument nicht hat</source>
+        <translation>delivery times for article %1, which the products document does not have</translation>
+    </message>
+    <message>
+        <source>Artikel %1 hat für keinen Bestellweg einen Preis</source>
+        <translation>article %1 has no price for any order source</translation>
+    </message>
+    <message>
+        <source>Zusatzartikel %1 ist mit Artikel %2 verknüpft, den das Produktdokument nicht hat</source>
+        <translation>add-on %1 is linked to article %2, which the products document does not have</translation>
+    </message>
+    <message>
+        <source>Artikel %1 ist mit Artikel %2 verknüpft, den das Produktdokument nicht hat</source>
+        <translation>article %1 is linked to article %2, which the products document does not have</translation>
+    </message>
+    <message>
+        <source>erlaubte Zahlart %1 (Bestellweg %2): keine Zahlart hat diese ID</source>
+        <translation>permitted payment %1 (order source %2): no payment method has this id</translation>
+    </message>
+    <message>
+        <source>Versandgruppe %1 hat Produkte (Artikel %2 ist eines), aber keinen Versandkostenartikel</source>
+        <translation>shipping group %1 has products (article %2 is one) but no transfer article</translation>
+    </message>
+    <message>
+        <source>Versandgruppe %1 &quot;%2&quot; hat keine Produkte</source>
+        <translation>shipping group %1 &quot;%2&quot; has no products</translation>
+    </message>
+</context>
+<context>
+    <name>ZTAPMDeliveryTimes</name>
+    <message>
+        <source>ungültiges Element %1 verworfen</source>
+        <translation>invalid %1 dropped</translation>
+    </message>
+</context>
+<context>
     <name>ZTAPMShippingDate</name>
     <message>
         <source>%1 - %2</source>
@@ -10,6 +99,13 @@
     <message>
         <source>Voraussichtliches Lieferdatum:</source>
         <translation>Expected delivery date:</translation>
+    </message>
+</context>
+<context>
+    <name>ZTAPMShippingGroupImpl</name>
+    <message>
+        <source>Element %1 verworfen: keine Gruppe</source>
+        <translation>%1 dropped: not a group</translation>
     </message>
 </context>
 <context>
@@ -23,6 +119,13 @@
         <source>Firma</source>
         <comment>RADIOBUTTON</comment>
         <translation>Company</translation>
+    </message>
+</context>
+<context>
+    <name>ZTCurrency</name>
+    <message>
+        <source>Währung ohne isocode</source>
+        <translation>currency without isocode</translation>
     </message>
 </context>
 <context>
@@ -45,6 +148,10 @@
     <message>
         <source>%1 Fotopack</source>
         <translation>%1 photo pack</translation>
+    </message>
+    <message>
+        <source>Umrechnungsfaktor &quot;%1&quot; ist keine Zahl</source>
+        <translation>currency factor &quot;%1&quot; is no number</translation>
     </message>
 </context>
 <context>
@@ -71,6 +178,13 @@
     <message>
         <source> (nicht mehr lieferbar)</source>
         <translation> (no longer available)</translation>
+    </message>
+</context>
+<context>
+    <name>ZTProductRegistryAbstract</name>
+    <message>
+        <source>%1 %2 verworfen: kein Produkt dieser Art</source>
+        <translation>%1 %2 dropped: no product of this kind</translation>
     </message>
 </context>
 <context>

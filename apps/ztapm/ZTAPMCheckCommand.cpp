@@ -110,7 +110,6 @@ void ZTAPMCheckCommand::writeText(const QJsonObject& theReport, QTextStream& the
 {
     for (const QJsonValue& value : theReport[QStringLiteral("findings")].toArray()) {
         const QJsonObject finding = value.toObject();
-        // The message is the reader's log text, in the log's language.
         theOut << tr("%1: %2: %3")
                       .arg(placeText(finding), severityText(finding[QStringLiteral("severity")].toString()),
                            finding[QStringLiteral("message")].toString())

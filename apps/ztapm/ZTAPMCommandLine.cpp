@@ -50,7 +50,9 @@ int ZTAPMCommandLine::run(const QStringList& theArguments)
     const QString requested = requestedLanguage(theArguments);
     const bool known = requested.isEmpty() || languages().contains(requested);
     ZTTranslations::install(known && !requested.isEmpty() ? requested : environmentLanguage(),
-                            {QStringLiteral("ZTAPM"), QStringLiteral("ztapm-command")});
+                            {QStringLiteral("ZTCore"), QStringLiteral("ZTXML"),
+                             QStringLiteral("ZTProductBase"), QStringLiteral("ZTAPM"),
+                             QStringLiteral("ztapm-command")});
 
     QCommandLineParser parser;
     parser.setApplicationDescription(tr("Runs the ZTAPM engine on a key account.") + QStringLiteral("\n\n") +

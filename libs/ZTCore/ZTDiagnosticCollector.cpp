@@ -3,6 +3,8 @@
 #include "ZTEnumToStringTable.h"
 #include "ZTMutexLocker.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <atomic>
 #include <cstdlib>
@@ -40,7 +42,8 @@ void handOverPending()
     theCurrent.pending.clear();
 }
 
-// "18ZTArticleClassEnum" becomes "article class": the vocabulary as a document's author knows it.
+// "18ZTArticleClassEnum" becomes "article class": the vocabulary as a document's author knows it,
+// by the same name in every language.
 QString vocabularyName(const char* theEnumeration)
 {
     int status = -1;
@@ -67,7 +70,9 @@ void reportUnknownKeyword(const QString& theKeyword, const char* theEnumeration)
         return;
     ZTDiagnosticCollector::report(
         ZTDiagnostic::Warning,
-        QStringLiteral("\"%1\" is no %2 keyword").arg(theKeyword, vocabularyName(theEnumeration)));
+        QCoreApplication::translate("ZTDiagnosticCollector",
+                                    "\"%1\" ist kein Schlüsselwort des Vokabulars \"%2\"")
+            .arg(theKeyword, vocabularyName(theEnumeration)));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "ZTDiagnosticCollector.h"
 #include "ZTXMLParser.h"
 
+#include <QCoreApplication>
 #include <QDomElement>
 
 namespace {
@@ -30,9 +31,10 @@ ZTArticleId ZTArticleId::fromAttribute(const QDomElement& theElement, const QStr
     if (!ok) {
         qWarning() << "Invalid article id" << text << "in attribute" << theName << "of"
                    << theElement.tagName();
-        ZTDiagnosticCollector::report(ZTDiagnostic::Warning,
-                                      QStringLiteral("invalid article id \"%1\" in attribute %2 of %3")
-                                          .arg(text, theName, theElement.tagName()));
+        ZTDiagnosticCollector::report(
+            ZTDiagnostic::Warning,
+            QCoreApplication::translate("ZTArticleId", "ungültige Artikel-ID \"%1\" im Attribut %2 von %3")
+                .arg(text, theName, theElement.tagName()));
         return ZTArticleId();
     }
     return ZTArticleId(id);

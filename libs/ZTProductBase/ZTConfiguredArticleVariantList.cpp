@@ -1,10 +1,11 @@
 #include "ZTConfiguredArticleVariantList.h"
 
 #include "ZTDiagnosticCollector.h"
+#include "ZTProblemList.h"
 #include "ZTXMLParser.h"
 
+#include <QCoreApplication>
 #include <QDomElement>
-#include <QStringList>
 
 ZTConfiguredArticleVariantList::ZTConfiguredArticleVariantList() = default;
 
@@ -14,18 +15,24 @@ ZTConfiguredArticleVariantList::ZTConfiguredArticleVariantList(const QDomElement
     if (variants.isNull())
         return;
 
-    QStringList skipped;
+    ZTProblemList skipped;
     for (QDomElement variant = variants.firstChildElement(QStringLiteral("variant")); !variant.isNull();
          variant = variant.nextSiblingElement(QStringLiteral("variant"))) {
         const QString idText = ZTXMLParser::attribute(variant, QStringLiteral("id"), QString(), true);
         bool ok = false;
         const int id = ZTXMLParser::fastDecodeInt(idText, &ok);
         if (!ok || id <= 0) {
-            skipped.append(QStringLiteral("id \"%1\" is no positive number").arg(idText));
+            skipped.append(QStringLiteral("id \"%1\" is no positive number").arg(idText),
+                           QCoreApplication::translate("ZTConfiguredArticleVariantList",
+                                                       "ID \"%1\" ist keine positive Zahl")
+                               .arg(idText));
             continue;
         }
         if (containsId(id)) {
-            skipped.append(QStringLiteral("id %1 is listed twice").arg(id));
+            skipped.append(QStringLiteral("id %1 is listed twice").arg(id),
+                           QCoreApplication::translate("ZTConfiguredArticleVariantList",
+                                                       "ID %1 steht zweimal in der Liste")
+                               .arg(id));
             continue;
         }
         append(ZTConfiguredArticleVariant(
@@ -33,11 +40,11 @@ ZTConfiguredArticleVariantList::ZTConfiguredArticleVariantList(const QDomElement
     }
     if (!skipped.isEmpty()) {
         qWarning().noquote() << "variants of article" << theArticle.attribute(QStringLiteral("id"))
-                             << "skipped:" << skipped.join(QStringLiteral("; "));
-        ZTDiagnosticCollector::report(
-            ZTDiagnostic::Warning,
-            QStringLiteral("variants of article %1 dropped: %2")
-                .arg(theArticle.attribute(QStringLiteral("id")), skipped.join(QStringLiteral("; "))));
+                             << "skipped:" << skipped.logText();
+        ZTDiagnosticCollector::report(ZTDiagnostic::Warning,
+                                      QCoreApplication::translate("ZTConfiguredArticleVariantList",
+                                                                  "Varianten von Artikel %1 verworfen: %2")
+                                          .arg(theArticle.attribute(QStringLiteral("id")), skipped.text()));
     }
 }
 

@@ -4,6 +4,8 @@
 #include "ZTDiagnosticCollector.h"
 #include "ZTKeywordTableFiller.h"
 
+#include <QCoreApplication>
+
 ZTFotoPaperType::ZTFotoPaperType(ZTFotoPaperTypeEnum theValue) : ZTEnumWrapper<ZTFotoPaperTypeEnum>(theValue)
 {}
 
@@ -30,7 +32,8 @@ QList<ZTFotoPaperType> ZTFotoPaperType::createFromXTCI(const QString& theText)
         qWarning() << "Unknown photo paper types ignored:" << unknown << "in" << theText;
         ZTDiagnosticCollector::report(
             ZTDiagnostic::Note,
-            QStringLiteral("unknown photo paper types ignored: %1").arg(unknown.join(QStringLiteral(", "))));
+            QCoreApplication::translate("ZTFotoPaperType", "unbekannte Fotopapierarten übergangen: %1")
+                .arg(unknown.join(QStringLiteral(", "))));
     }
     return result;
 }

@@ -1,6 +1,7 @@
 #ifndef ZTPAGECOUNTORGANIZATION_H
 #define ZTPAGECOUNTORGANIZATION_H
 
+#include "ZTProblemList.h"
 #include "ztproductbase_export.h"
 
 #include <QDebug>
@@ -57,7 +58,7 @@ public:
 private:
     // Warns once for all problems, those found by the caller included.
     static ZTPageCountOrganization read(const QDomElement& theArticle, int theDefaultMinPages,
-                                        QStringList problems);
+                                        ZTProblemList problems);
 
     int myMinPages = 1;
     int myMaxPages = 1;

@@ -3,6 +3,7 @@
 #include "ZTDiagnosticCollector.h"
 #include "ZTXMLParser.h"
 
+#include <QCoreApplication>
 #include <QDomElement>
 
 ZTShippingGroupId::ZTShippingGroupId(const QDomElement& theGroup)
@@ -21,9 +22,11 @@ ZTShippingGroupId::ZTShippingGroupId(const QDomElement& theElement, const QStrin
     else {
         qWarning() << "Invalid shipping group id" << text << "in attribute" << theAttribute << "of"
                    << theElement.tagName();
-        ZTDiagnosticCollector::report(ZTDiagnostic::Warning,
-                                      QStringLiteral("invalid shipping group id \"%1\" in attribute %2 of %3")
-                                          .arg(text, theAttribute, theElement.tagName()));
+        ZTDiagnosticCollector::report(
+            ZTDiagnostic::Warning,
+            QCoreApplication::translate("ZTShippingGroupId",
+                                        "ungültige Versandgruppen-ID \"%1\" im Attribut %2 von %3")
+                .arg(text, theAttribute, theElement.tagName()));
     }
 }
 

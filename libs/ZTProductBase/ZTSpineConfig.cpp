@@ -1,11 +1,12 @@
 #include "ZTSpineConfig.h"
 
 #include "ZTDiagnosticCollector.h"
+#include "ZTProblemList.h"
 #include "ZTSpineConfigImpl.h"
 #include "ZTXMLParser.h"
 
+#include <QCoreApplication>
 #include <QDomElement>
-#include <QStringList>
 
 #include <algorithm>
 
@@ -15,19 +16,22 @@ namespace {
 // article's warning. The parser gives its default for a malformed value without a word, so two
 // reads with different defaults tell a malformed value from a good one.
 ZTDistance readLength(const QDomElement& theSpine, const QString& theName, const ZTDistanceUnit& theUnit,
-                      QStringList* theProblems)
+                      ZTProblemList* theProblems)
 {
     if (!theSpine.hasAttribute(theName))
         return ZTDistance();
     const ZTDistance length = ZTXMLParser::readDistance(theSpine, theName, 0.0, theUnit);
     if (length != ZTXMLParser::readDistance(theSpine, theName, -1.0, theUnit)) {
         theProblems->append(
-            QStringLiteral("%1=\"%2\" is no length").arg(theName, theSpine.attribute(theName)));
+            QStringLiteral("%1=\"%2\" is no length").arg(theName, theSpine.attribute(theName)),
+            QCoreApplication::translate("ZTSpineConfig", "%1=\"%2\" ist keine Länge")
+                .arg(theName, theSpine.attribute(theName)));
         return ZTDistance();
     }
     if (length.pixels() < 0.0) {
-        theProblems->append(
-            QStringLiteral("%1=\"%2\" is negative").arg(theName, theSpine.attribute(theName)));
+        theProblems->append(QStringLiteral("%1=\"%2\" is negative").arg(theName, theSpine.attribute(theName)),
+                            QCoreApplication::translate("ZTSpineConfig", "%1=\"%2\" ist negativ")
+                                .arg(theName, theSpine.attribute(theName)));
         return ZTDistance();
     }
     return length;
@@ -62,7 +66,7 @@ ZTSpineConfig ZTSpineConfig::createFromProductsXML(const QDomElement& theArticle
 
     const ZTDistanceUnit unit(
         ZTXMLParser::attribute(composition, QStringLiteral("units"), QStringLiteral("mm"), true));
-    QStringList problems;
+    ZTProblemList problems;
     ZTSpineConfigImpl* impl = result.myImpl.data();
     impl->myBaseWidth = readLength(spine, QStringLiteral("base_width"), unit, &problems);
     impl->myPageThickness = readLength(spine, QStringLiteral("page_thickness"), unit, &problems);
@@ -75,10 +79,10 @@ ZTSpineConfig ZTSpineConfig::createFromProductsXML(const QDomElement& theArticle
               readLength(spine, QStringLiteral("cover_reduce_height"), unit, &problems).roundedPixels());
     if (!problems.isEmpty()) {
         qWarning().noquote() << "spine of article" << theArticle.attribute(QStringLiteral("id")) << ":"
-                             << problems.join(QStringLiteral("; "));
-        ZTDiagnosticCollector::report(ZTDiagnostic::Note, QStringLiteral("spine of article %1: %2")
-                                                              .arg(theArticle.attribute(QStringLiteral("id")),
-                                                                   problems.join(QStringLiteral("; "))));
+                             << problems.logText();
+        ZTDiagnosticCollector::report(
+            ZTDiagnostic::Note, QCoreApplication::translate("ZTSpineConfig", "Buchrücken von Artikel %1: %2")
+                                    .arg(theArticle.attribute(QStringLiteral("id")), problems.text()));
     }
     return result;
 }

@@ -4,6 +4,7 @@
 #include "ZTXMLDocumentGuard.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -30,7 +31,9 @@ bool openFile(const QFileInfo& theFileInfo, QFile& theFile)
         if (ZTDiagnosticCollector::isCollecting()) {
             const ZTDiagnosticCollector::Location location(path);
             ZTDiagnosticCollector::report(
-                ZTDiagnostic::Error, QStringLiteral("cannot read the file: %1").arg(theFile.errorString()));
+                ZTDiagnostic::Error,
+                QCoreApplication::translate("ZTXMLLoader", "Die Datei ist nicht lesbar: %1")
+                    .arg(theFile.errorString()));
         }
         return false;
     }
@@ -46,8 +49,10 @@ void warnParseError(const QString& thePath, qint64 theLine, qint64 theColumn, co
                                 .arg(theMessage);
     if (ZTDiagnosticCollector::isCollecting()) {
         const ZTDiagnosticCollector::Location location(thePath);
-        ZTDiagnosticCollector::reportAt(ZTDiagnostic::Error, int(theLine), int(theColumn),
-                                        QStringLiteral("XML does not parse: %1").arg(theMessage));
+        // The reader's own message stays as the reader gives it.
+        ZTDiagnosticCollector::reportAt(
+            ZTDiagnostic::Error, int(theLine), int(theColumn),
+            QCoreApplication::translate("ZTXMLLoader", "Das XML ist nicht wohlgeformt: %1").arg(theMessage));
     }
 }
 

@@ -1,8 +1,10 @@
 #include "ZTArticleVariants.h"
 #include "ZTBarcodeDefinitionList.h"
 #include "ZTConfiguredArticleVariantList.h"
+#include "ZTDiagnosticCollector.h"
 #include "ZTPageCountOrganization.h"
 #include "ZTSpineConfig.h"
+#include "ZTTranslations.h"
 
 #include <QDomDocument>
 #include <QRegularExpression>
@@ -41,6 +43,8 @@ private Q_SLOTS:
     void pageCountsOfSpecialProducts();
     void barcodes();
     void variants();
+    void findings_data();
+    void findings();
 };
 
 void tst_ZTPageGeometry::spineWidth_data()
@@ -268,6 +272,64 @@ void tst_ZTPageGeometry::variants()
     QVERIFY(chosen.contains(2));
     QVERIFY(!chosen.contains(0));
     QCOMPARE(chosen, ZTArticleVariants({2, 3, 1}));
+}
+
+// The finding beside a log line tells the same problems in the language of the installed
+// catalogue, German without one; the log line keeps its words in both.
+void tst_ZTPageGeometry::findings_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("document");
+    QTest::addColumn<QString>("log");
+    QTest::addColumn<QString>("finding");
+
+    const QString pages = QStringLiteral("<article id=\"1001\" min_pages=\"x\" page_increment=\"0\"/>");
+    const QString pagesLog = QStringLiteral(
+        "page counts of article 1001 : min_pages=\"x\" is no number; page_increment 0 is below 1");
+    QTest::newRow("page counts, de") << "de" << pages << pagesLog
+                                     << "Seitenzahlen von Artikel 1001: min_pages=\"x\" ist keine Zahl; "
+                                        "page_increment 0 ist kleiner als 1";
+    QTest::newRow("page counts, en") << "en" << pages << pagesLog
+                                     << "page counts of article 1001: min_pages=\"x\" is no number; "
+                                        "page_increment 0 is below 1";
+    const QString barcode =
+        QStringLiteral("<article id=\"1001\"><composition units=\"mm\"><barcode>"
+                       "<position x=\"5\" y=\"5\" width=\"20\" height=\"10\" rotation=\"45\"/>"
+                       "</barcode></composition></article>");
+    const QString barcodeLog =
+        QStringLiteral("barcodes of article 1001 : position 1: rotation=\"45\" is not 0, 90, 180 or 270");
+    QTest::newRow("barcodes, de")
+        << "de" << barcode << barcodeLog
+        << "Barcodes von Artikel 1001: Position 1: rotation=\"45\" ist nicht 0, 90, 180 oder 270";
+    QTest::newRow("barcodes, en")
+        << "en" << barcode << barcodeLog
+        << "barcodes of article 1001: position 1: rotation=\"45\" is not 0, 90, 180 or 270";
+}
+
+void tst_ZTPageGeometry::findings()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, document);
+    QFETCH(QString, log);
+    QFETCH(QString, finding);
+    ZTTranslations::install(language, {QStringLiteral("ZTProductBase")}, QStringLiteral(ZT_TRANSLATIONS_DIR));
+    QTest::ignoreMessage(QtWarningMsg, log.toUtf8().constData());
+    QStringList found;
+    {
+        ZTDiagnosticCollector collector;
+        collector.install();
+        const QDomElement element = parse(document);
+        const QDomElement barcode = element.firstChildElement(QStringLiteral("composition"))
+                                        .firstChildElement(QStringLiteral("barcode"));
+        if (barcode.isNull())
+            ZTPageCountOrganization::createFromProductsXML(element);
+        else
+            ZTBarcodeDefinitionList::createFromXTCI(barcode, ZTDistanceUnit(ZTDistanceUnitMillimetre));
+        for (const ZTDiagnostic& diagnostic : collector.diagnostics())
+            found << diagnostic.message();
+    }
+    ZTTranslations::install(QStringLiteral("de"), {});
+    QCOMPARE(found, QStringList{finding});
 }
 
 QTEST_GUILESS_MAIN(tst_ZTPageGeometry)

@@ -39,7 +39,8 @@ class tst_ZTDiagnostics : public QObject
 private Q_SLOTS:
     // A reader's finding stands at the start tag of the section element it reads, also when the
     // tag runs over lines; a parse error where the parser stopped; an element with an id where
-    // its tag starts, in a streamed document and in a whole one.
+    // its tag starts, in a streamed document and in a whole one. No catalogue is installed: the
+    // findings are in the language of the code, the parser's own message as it gives it.
     void places_data()
     {
         QTest::addColumn<QByteArray>("document");
@@ -53,11 +54,13 @@ private Q_SLOTS:
             << twoArticles << true
             << QStringList{QStringLiteral("3:5 note article 1"), QStringLiteral("4:3 note article 2")};
         QTest::newRow("parse error") << QByteArray("<xtci>\n  <articles>\n  </article>\n</xtci>\n") << true
-                                     << QStringList{QStringLiteral("3:12 error XML does not parse: "
-                                                                   "Opening and ending tag mismatch.")};
+                                     << QStringList{
+                                            QStringLiteral("3:12 error Das XML ist nicht wohlgeformt: "
+                                                           "Opening and ending tag mismatch.")};
         QTest::newRow("parse error of a whole document")
             << QByteArray("<a>\n<b></c>\n</a>\n") << false
-            << QStringList{QStringLiteral("2:7 error XML does not parse: Opening and ending tag mismatch.")};
+            << QStringList{QStringLiteral(
+                   "2:7 error Das XML ist nicht wohlgeformt: Opening and ending tag mismatch.")};
         QTest::newRow("no finding on a good whole document") << twoArticles << false << QStringList();
     }
     void places()
@@ -138,15 +141,17 @@ private Q_SLOTS:
         QTest::addColumn<bool>("list");
         QTest::addColumn<bool>("inDocument");
         QTest::addColumn<QStringList>("expected");
-        QTest::newRow("one keyword") << "furlong" << false << true
-                                     << QStringList{
-                                            QStringLiteral("\"furlong\" is no distance unit keyword")};
+        QTest::newRow("one keyword")
+            << "furlong" << false << true
+            << QStringList{
+                   QStringLiteral("\"furlong\" ist kein Schlüsselwort des Vokabulars \"distance unit\"")};
         QTest::newRow("known keyword") << " MM " << false << true << QStringList();
         QTest::newRow("blank") << "  " << false << true << QStringList();
         QTest::newRow("outside a document") << "furlong" << false << false << QStringList();
-        QTest::newRow("in a list") << "prices, recipes,,products" << true << true
-                                   << QStringList{
-                                          QStringLiteral("\"recipes\" is no key account data type keyword")};
+        QTest::newRow("in a list")
+            << "prices, recipes,,products" << true << true
+            << QStringList{QStringLiteral(
+                   "\"recipes\" ist kein Schlüsselwort des Vokabulars \"key account data type\"")};
     }
     void unknownKeywords()
     {

@@ -278,8 +278,7 @@ private Q_SLOTS:
     }
 
     // The command's texts in German: whole lines, with the keywords of JSON translated where the
-    // text shows them (the readers' findings stay in the log's language); the JSON and the exit
-    // status are the same as in English.
+    // text shows them; the JSON and the exit status are the same as in English.
     void commandsInGerman_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -303,13 +302,6 @@ private Q_SLOTS:
                                            << "  Gruppe 16 Position     3002   Abzug 10x15                   "
                                               "           lokal 18,00 € (b:2)          "
                                               "Server 19,20 € (b:2)";
-        const QStringList check{QStringLiteral("check"), QStringLiteral("--data"),
-                                QStringLiteral(ZT_TEST_DATA_DIR "/check-broken")};
-        QTest::newRow("check finding") << check << 5
-                                       << "deliverytimes.xml:10:5: Warnung: delivery times for article 8889, "
-                                          "which the products document does "
-                                          "not have";
-        QTest::newRow("check counts") << check << 5 << "3 Fehler, 9 Warnungen, 3 Hinweise";
     }
     void commandsInGerman()
     {
@@ -325,6 +317,70 @@ private Q_SLOTS:
         const Run json = ztapm(german + arguments << QStringLiteral("--json"));
         QCOMPARE(json.exitCode, exitCode);
         QCOMPARE(json.json(), ztapm(arguments << QStringLiteral("--json")).json());
+    }
+
+    // The findings of check in the language of the output, the engine's and the host libraries'
+    // alike, in the text and in the JSON; the places and severities are the same in both.
+    void checkInBothLanguages_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("engine, de")
+            << "de"
+            << "deliverytimes.xml:10:5: Warnung: Lieferzeiten für Artikel 8889, den das "
+               "Produktdokument nicht hat";
+        QTest::newRow("engine, en")
+            << "en"
+            << "deliverytimes.xml:10:5: warning: delivery times for article 8889, which "
+               "the products document does not have";
+        QTest::newRow("ZTCore, de")
+            << "de"
+            << "products.xml:55:5: Warnung: \"furlong\" ist kein Schlüsselwort des Vokabulars "
+               "\"distance unit\"";
+        QTest::newRow("ZTCore, en") << "en"
+                                    << "products.xml:55:5: warning: \"furlong\" is no distance unit keyword";
+        QTest::newRow("ZTXML, de")
+            << "de"
+            << "currencies.xml:35:35: Fehler: Das XML ist nicht wohlgeformt: Opening and "
+               "ending tag mismatch.";
+        QTest::newRow("ZTXML, en")
+            << "en"
+            << "currencies.xml:35:35: error: XML does not parse: Opening and ending tag "
+               "mismatch.";
+        QTest::newRow("counts, de") << "de"
+                                    << "3 Fehler, 9 Warnungen, 3 Hinweise";
+    }
+    void checkInBothLanguages()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, line);
+        const QStringList check{QStringLiteral("--lang"), language, QStringLiteral("check"),
+                                QStringLiteral("--data"), QStringLiteral(ZT_TEST_DATA_DIR "/check-broken")};
+        const Run text = ztapm(check);
+        QCOMPARE(text.exitCode, 5);
+        QVERIFY2(QString::fromUtf8(text.out).split(QLatin1Char('\n')).contains(line), text.out.constData());
+
+        const auto withoutMessages = [](const Run& theRun) {
+            QJsonArray findings = theRun.json()[QStringLiteral("findings")].toArray();
+            for (QJsonValueRef finding : findings) {
+                QJsonObject object = finding.toObject();
+                object.remove(QStringLiteral("message"));
+                finding = object;
+            }
+            return findings;
+        };
+        const Run json = ztapm(check + QStringList{QStringLiteral("--json")});
+        QCOMPARE(json.exitCode, 5);
+        const QString message = line.section(QStringLiteral(": "), 2);
+        const QJsonArray findings = json.json()[QStringLiteral("findings")].toArray();
+        QVERIFY(message.isEmpty() ||
+                std::any_of(findings.begin(), findings.end(), [&](const QJsonValue& theFinding) {
+                    return theFinding[QStringLiteral("message")].toString() == message;
+                }));
+        QCOMPARE(withoutMessages(json),
+                 withoutMessages(
+                     ztapm({QStringLiteral("check"), QStringLiteral("--data"),
+                            QStringLiteral(ZT_TEST_DATA_DIR "/check-broken"), QStringLiteral("--json")})));
     }
 
     void demoMillionPiecesHaveNoPrice()

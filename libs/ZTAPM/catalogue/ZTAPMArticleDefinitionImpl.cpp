@@ -7,6 +7,7 @@
 #include "ZTPriceClassSet.h"
 #include "ZTXMLParser.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDomElement>
 
@@ -95,7 +96,9 @@ ZTAPMArticleDefinitionImpl::ZTAPMArticleDefinitionImpl(const QDomElement& theEle
         materialType.isNull())
         ZTDiagnosticCollector::report(
             ZTDiagnostic::Warning,
-            QStringLiteral("\"%1\" is no paper type or material type keyword").arg(material.trimmed()));
+            QCoreApplication::translate("ZTAPMArticleDefinitionImpl",
+                                        "\"%1\" ist kein Schlüsselwort für Papier- oder Materialarten")
+                .arg(material.trimmed()));
 
     myArticleClass = detectArticleClass(theElement.nodeName(), materialType, myCoverType);
 
@@ -109,10 +112,12 @@ ZTAPMArticleDefinitionImpl::ZTAPMArticleDefinitionImpl(const QDomElement& theEle
         qWarning().noquote() << QStringLiteral("sizes of article %1: no length of at most 1 km: %2")
                                     .arg(myArticleId.id())
                                     .arg(badLengths.join(QStringLiteral(", ")));
-        ZTDiagnosticCollector::report(ZTDiagnostic::Note,
-                                      QStringLiteral("sizes of article %1: no length of at most 1 km: %2")
-                                          .arg(myArticleId.id())
-                                          .arg(badLengths.join(QStringLiteral(", "))));
+        ZTDiagnosticCollector::report(
+            ZTDiagnostic::Note,
+            QCoreApplication::translate("ZTAPMArticleDefinitionImpl",
+                                        "Größen von Artikel %1: keine Länge von höchstens 1 km: %2")
+                .arg(myArticleId.id())
+                .arg(badLengths.join(QStringLiteral(", "))));
     }
     myPageSize = ZTPageSizeData(page, unit, myArticleClass, ZTPageSizeData());
     myCoverSize = ZTPageSizeData(cover, unit, myArticleClass, myPageSize);

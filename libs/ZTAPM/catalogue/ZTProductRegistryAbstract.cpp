@@ -7,6 +7,7 @@
 #include "ZTProductFactory.h"
 #include "ZTShippingGroupId.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDomElement>
 #include <QMutex>
@@ -51,7 +52,8 @@ ZTProductAbstract* ZTProductRegistryAbstract::buildAbstractProduct(const QDomEle
                                          theElement.attribute(QStringLiteral("name")));
         ZTDiagnosticCollector::report(
             ZTDiagnostic::Warning,
-            QStringLiteral("%1 %2 dropped: no product of this kind")
+            QCoreApplication::translate("ZTProductRegistryAbstract",
+                                        "%1 %2 verworfen: kein Produkt dieser Art")
                 .arg(theElement.tagName(), theElement.attribute(QStringLiteral("id"))));
     }
     return product;

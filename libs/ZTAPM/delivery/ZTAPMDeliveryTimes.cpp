@@ -3,6 +3,7 @@
 #include "ZTDiagnosticCollector.h"
 #include "ZTExpressTypeList.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDomElement>
 
@@ -34,8 +35,10 @@ void ZTAPMDeliveryTimes::update(const QDomElement& theElement)
             append(time);
         else {
             qWarning() << "invalid" << childTag;
-            ZTDiagnosticCollector::report(ZTDiagnostic::Warning,
-                                          QStringLiteral("invalid %1 dropped").arg(childTag));
+            ZTDiagnosticCollector::report(
+                ZTDiagnostic::Warning,
+                QCoreApplication::translate("ZTAPMDeliveryTimes", "ungültiges Element %1 verworfen")
+                    .arg(childTag));
         }
     }
 }

@@ -4,6 +4,7 @@
 #include "ZTDiagnosticCollector.h"
 #include "ZTXMLParser.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDomElement>
 
@@ -40,8 +41,10 @@ void ZTAPMShippingGroupImpl::parseShippingGroup(const QDomElement& theElement)
 {
     if (theElement.tagName() != QLatin1String("group")) {
         qWarning() << "Tag name is not group";
-        ZTDiagnosticCollector::report(ZTDiagnostic::Warning,
-                                      QStringLiteral("%1 dropped: not a group").arg(theElement.tagName()));
+        ZTDiagnosticCollector::report(
+            ZTDiagnostic::Warning,
+            QCoreApplication::translate("ZTAPMShippingGroupImpl", "Element %1 verworfen: keine Gruppe")
+                .arg(theElement.tagName()));
         return;
     }
     myId = ZTShippingGroupId(theElement);

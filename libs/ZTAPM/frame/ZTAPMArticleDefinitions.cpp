@@ -3,6 +3,7 @@
 
 #include "ZTDiagnosticCollector.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 
 ZTAPMArticleDefinitions::ZTAPMArticleDefinitions() = default;
@@ -33,7 +34,9 @@ bool ZTAPMArticleDefinitions::parseElement(const QDomElement& theElement) const
         if (ZTDiagnosticCollector::isCollecting())
             ZTDiagnosticCollector::report(
                 ZTDiagnostic::Warning,
-                QStringLiteral("%1 dropped: it needs an id, a known class and a shipping group")
+                QCoreApplication::translate(
+                    "ZTAPMArticleDefinitions",
+                    "Element %1 verworfen: es braucht eine ID, eine bekannte Klasse und eine Versandgruppe")
                     .arg(theElement.tagName()));
         return false;
     }

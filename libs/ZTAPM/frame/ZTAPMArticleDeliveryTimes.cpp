@@ -2,6 +2,8 @@
 
 #include "ZTDiagnosticCollector.h"
 
+#include <QCoreApplication>
+
 ZTAPMArticleDeliveryTimes::ZTAPMArticleDeliveryTimes() = default;
 ZTAPMArticleDeliveryTimes::~ZTAPMArticleDeliveryTimes() = default;
 
@@ -30,7 +32,8 @@ bool ZTAPMArticleDeliveryTimes::parseElement(const QDomElement& theElement) cons
         if (ZTDiagnosticCollector::isCollecting())
             ZTDiagnosticCollector::report(
                 ZTDiagnostic::Warning,
-                QStringLiteral("delivery times of %1 %2 dropped: no valid delivery time")
+                QCoreApplication::translate("ZTAPMArticleDeliveryTimes",
+                                            "Lieferzeiten von %1 %2 verworfen: keine gültige Lieferzeit")
                     .arg(theElement.tagName(), theElement.attribute(QStringLiteral("id"))));
         return false;
     }

@@ -2,6 +2,8 @@
 
 #include "ZTDiagnosticCollector.h"
 
+#include <QCoreApplication>
+
 ZTAPMArticlePrices::ZTAPMArticlePrices() = default;
 ZTAPMArticlePrices::~ZTAPMArticlePrices() = default;
 
@@ -25,10 +27,13 @@ bool ZTAPMArticlePrices::parseElement(const QDomElement& theElement) const
         if (ZTDiagnosticCollector::isCollecting())
             ZTDiagnosticCollector::report(
                 ZTDiagnostic::Warning,
-                id.isValid() ? QStringLiteral("prices of %1 %2 dropped: no usable price row")
-                                   .arg(theElement.tagName())
-                                   .arg(id.id())
-                             : QStringLiteral("prices of %1 dropped: no id").arg(theElement.tagName()));
+                id.isValid()
+                    ? QCoreApplication::translate("ZTAPMArticlePrices",
+                                                  "Preise von %1 %2 verworfen: keine brauchbare Preiszeile")
+                          .arg(theElement.tagName())
+                          .arg(id.id())
+                    : QCoreApplication::translate("ZTAPMArticlePrices", "Preise von %1 verworfen: keine ID")
+                          .arg(theElement.tagName()));
         return false;
     }
     return insert(id, priceInfo);

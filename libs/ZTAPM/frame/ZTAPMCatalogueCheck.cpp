@@ -66,11 +66,11 @@ QList<ZTDiagnostic> ZTAPMCatalogueCheck::run()
         if (wasRead(myPricesFile)) {
             checkArticles();
             checkStore(objects->articlePrices().ids(), myPricesFile, ZTAPMArticlePriceInfo::xtciNodeNames(),
-                       QStringLiteral("prices"));
+                       tr("Preise für Artikel %1, den das Produktdokument nicht hat"));
         }
         if (wasRead(myDeliveryTimesFile))
             checkStore(objects->articleDeliveryTimes().ids(), myDeliveryTimesFile, productTags,
-                       QStringLiteral("delivery times"));
+                       tr("Lieferzeiten für Artikel %1, den das Produktdokument nicht hat"));
         if (wasRead(myOrderingDetailsFile))
             checkShippingGroups();
     }
@@ -100,7 +100,7 @@ void ZTAPMCatalogueCheck::checkArticles()
         const QString id = QString::number(product->articleId().id());
         if (!priced)
             add(ZTDiagnostic::Error, myProductsFile, productTags, id,
-                QStringLiteral("article %1 has no price for any order source").arg(id));
+                tr("Artikel %1 hat für keinen Bestellweg einen Preis").arg(id));
 
         const ZTArticleIdSet linked = objects->articleDefinition(product->articleId()).linkedArticleIds();
         if (linked.isEmpty())
@@ -110,26 +110,23 @@ void ZTAPMCatalogueCheck::checkArticles()
         for (const ZTArticleId& linkedId : std::as_const(linkedIds)) {
             if (!dataBase->productAbstract(linkedId))
                 add(ZTDiagnostic::Warning, myProductsFile, productTags, id,
-                    QStringLiteral("%1 %2 is linked to article %3, which the products document does not have")
-                        .arg(product->articleClass().matches(ZTArticleClassAllAddOns)
-                                 ? QStringLiteral("add-on")
-                                 : QStringLiteral("article"),
-                             id)
+                    (product->articleClass().matches(ZTArticleClassAllAddOns)
+                         ? tr("Zusatzartikel %1 ist mit Artikel %2 verknüpft, den das Produktdokument nicht "
+                              "hat")
+                         : tr("Artikel %1 ist mit Artikel %2 verknüpft, den das Produktdokument nicht hat"))
+                        .arg(id)
                         .arg(linkedId.id()));
         }
     }
 }
 
 void ZTAPMCatalogueCheck::checkStore(const QList<ZTArticleId>& theIds, const QString& theFile,
-                                     const QStringList& theTags, const QString& theWhat)
+                                     const QStringList& theTags, const QString& theMessage)
 {
     const ZTAPMDataBase* dataBase = ZTSingleton<ZTAPMDataBase>::instance();
     for (const ZTArticleId& id : theIds) {
         if (!dataBase->productAbstract(id))
-            add(ZTDiagnostic::Warning, theFile, theTags, QString::number(id.id()),
-                QStringLiteral("%1 for article %2, which the products document does not have")
-                    .arg(theWhat)
-                    .arg(id.id()));
+            add(ZTDiagnostic::Warning, theFile, theTags, QString::number(id.id()), theMessage.arg(id.id()));
     }
 }
 
@@ -149,7 +146,7 @@ void ZTAPMCatalogueCheck::checkPayments()
             reported.insert(id.id());
             add(ZTDiagnostic::Warning, myOrderingDetailsFile, {QStringLiteral("permitted_pay_method")},
                 QString::number(id.id()),
-                QStringLiteral("permitted payment %1 (order source %2): no payment method has this id")
+                tr("erlaubte Zahlart %1 (Bestellweg %2): keine Zahlart hat diese ID")
                     .arg(id.id())
                     .arg(source.toLogString()));
         }
@@ -172,7 +169,7 @@ void ZTAPMCatalogueCheck::checkShippingGroups()
         if (!dataBase->transferProduct(ZTShippingGroupId(it.key()))) {
             const QString id = QString::number(it.value()->articleId().id());
             add(ZTDiagnostic::Error, myProductsFile, productTags, id,
-                QStringLiteral("shipping group %1 has products (article %2 is one) but no transfer article")
+                tr("Versandgruppe %1 hat Produkte (Artikel %2 ist eines), aber keinen Versandkostenartikel")
                     .arg(it.key())
                     .arg(id));
         }
@@ -187,9 +184,7 @@ void ZTAPMCatalogueCheck::checkShippingGroups()
         if (!group.name().isEmpty() && !firstOfGroup.contains(group.id().id()))
             add(ZTDiagnostic::Note, myOrderingDetailsFile, {QStringLiteral("group")},
                 QString::number(group.id().id()),
-                QStringLiteral("shipping group %1 \"%2\" has no products")
-                    .arg(group.id().id())
-                    .arg(group.name()));
+                tr("Versandgruppe %1 \"%2\" hat keine Produkte").arg(group.id().id()).arg(group.name()));
     }
 }
 

@@ -5,6 +5,7 @@
 #include "ZTDiagnosticCollector.h"
 #include "ztapm_export.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QStringList>
 
@@ -22,6 +23,8 @@ class ZTArticleId;
 // then answers everything, sorted.
 class ZTAPM_EXPORT ZTAPMCatalogueCheck
 {
+    Q_DECLARE_TR_FUNCTIONS(ZTAPMCatalogueCheck)
+
 public:
     ZTAPMCatalogueCheck();
     ~ZTAPMCatalogueCheck();
@@ -32,8 +35,9 @@ public:
 
 private:
     void checkArticles();
+    // theMessage names the article with %1.
     void checkStore(const QList<ZTArticleId>& theIds, const QString& theFile, const QStringList& theTags,
-                    const QString& theWhat);
+                    const QString& theMessage);
     void checkPayments();
     void checkShippingGroups();
 

@@ -3,6 +3,7 @@
 #include "ZTDiagnosticCollector.h"
 #include "ZTXMLParser.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDomElement>
 
@@ -23,7 +24,8 @@ ZTCurrency::ZTCurrency(const QDomElement& theElement)
     // Kept all the same: the ordering details cannot name it, but nothing else breaks.
     if (myIsoCode.isEmpty()) {
         qWarning() << "found currency without isocode";
-        ZTDiagnosticCollector::report(ZTDiagnostic::Warning, QStringLiteral("currency without isocode"));
+        ZTDiagnosticCollector::report(ZTDiagnostic::Warning,
+                                      QCoreApplication::translate("ZTCurrency", "Währung ohne isocode"));
     }
 }
 

@@ -149,8 +149,8 @@ void ZTOrderingDetails::updateAvailableCurrencies(const QDomElement& theElement)
             const double number = factor.toDouble(&ok);
             if (!ok) {
                 qWarning().noquote() << QStringLiteral("Fehlerhafter Umrechnungsfaktor %1").arg(factor);
-                ZTDiagnosticCollector::report(
-                    ZTDiagnostic::Warning, QStringLiteral("currency factor \"%1\" is no number").arg(factor));
+                ZTDiagnosticCollector::report(ZTDiagnostic::Warning,
+                                              tr("Umrechnungsfaktor \"%1\" ist keine Zahl").arg(factor));
             }
             // The document gives what one unit of the secondary currency costs; sums are
             // multiplied by the reciprocal. A broken factor gives 0 and so an infinite one.

@@ -7,6 +7,7 @@
 #include "ZTDiscountLimitList.h"
 #include "ZTXMLParser.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDomElement>
 
@@ -23,8 +24,10 @@ bool readPriceRow(const QDomElement& thePriceElement, ZTAPMPriceKey* theKey, ZTA
     if (value.discountModel().isNull()) {
         if (ZTDiagnosticCollector::isCollecting())
             ZTDiagnosticCollector::report(
-                ZTDiagnostic::Warning, QStringLiteral("price row dropped: type \"%1\" is no discount model")
-                                           .arg(thePriceElement.attribute(QStringLiteral("type"))));
+                ZTDiagnostic::Warning,
+                QCoreApplication::translate("ZTAPMArticlePriceInfo",
+                                            "Preiszeile verworfen: Typ \"%1\" ist kein Rabattmodell")
+                    .arg(thePriceElement.attribute(QStringLiteral("type"))));
         return false;
     }
     *theKey = ZTAPMPriceKey(ZTOrderSource(thePriceElement), value.discountLevel(), value.discountModel());
@@ -49,7 +52,9 @@ void reportConvertedRows(const ZTAPMPriceValues& theTable)
     for (const ZTOrderSource& source : std::as_const(sources))
         ZTDiagnosticCollector::report(
             ZTDiagnostic::Note,
-            QStringLiteral("\"y\" rows of order source %1 are read as \"w\": the source has a photo package")
+            QCoreApplication::translate(
+                "ZTAPMArticlePriceInfo",
+                "\"y\"-Zeilen des Bestellwegs %1 werden als \"w\" gelesen: der Bestellweg hat ein Fotopaket")
                 .arg(source.toLogString()));
 }
 
