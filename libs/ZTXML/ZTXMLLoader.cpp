@@ -260,7 +260,8 @@ bool ZTXMLLoader::forEachSectionElement(
         fileLocation.emplace(file.fileName());
 
     while (!reader.atEnd()) {
-        if (collecting)
+        // Only a start tag read at depth 2 opens an element of a section, whose place is wanted.
+        if (collecting && depth == 2 && section >= 0)
             start.before(reader);
         reader.readNext();
         if (!guard.check(reader))

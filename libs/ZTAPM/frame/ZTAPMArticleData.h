@@ -247,6 +247,15 @@ public:
         return valueOf(theId);
     }
 
+    // Every value the store holds, taken under one lock, for checks that visit every article: a
+    // question per id would take the lock each time. A store that reads on demand holds the ids
+    // asked so far, and every id while findings are collected, since it then reads whole.
+    QHash<ZTArticleId, T> values() const
+    {
+        ZTReadLocker reader(&myLock);
+        return myData;
+    }
+
     // The ids that hold a value, ascending: for checks over the whole document.
     QList<ZTArticleId> ids() const
     {

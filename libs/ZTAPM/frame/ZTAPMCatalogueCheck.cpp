@@ -1,6 +1,8 @@
 #include "ZTAPMCatalogueCheck.h"
 
+#include "ZTAPMArticleDefinitions.h"
 #include "ZTAPMArticlePriceInfo.h"
+#include "ZTAPMArticlePrices.h"
 #include "ZTAPMConfig.h"
 #include "ZTAPMDataBase.h"
 #include "ZTAPMObjects.h"
@@ -88,10 +90,13 @@ void ZTAPMCatalogueCheck::checkArticles()
     std::sort(products.begin(), products.end(), byId);
     products.erase(std::unique(products.begin(), products.end()), products.end());
     const QList<ZTOrderSource> sources = ZTOrderSource::all();
+    // Both stores have read their whole documents by now (findings are collected).
+    const QHash<ZTArticleId, ZTAPMArticlePriceInfo> priceInfos = objects->articlePrices().values();
+    const QHash<ZTArticleId, ZTAPMArticleDefinition> definitions = objects->articleDefinitions().values();
     for (const ZTProductAbstract* product : std::as_const(products)) {
         if (product->isDeprecated())
             continue;
-        const ZTAPMArticlePriceInfo prices = objects->priceInfo(product->articleId());
+        const ZTAPMArticlePriceInfo prices = priceInfos.value(product->articleId());
         const ZTAPMPriceValues::Rows& rows = prices.priceValues().rows();
         const bool priced =
             std::any_of(rows.keyBegin(), rows.keyEnd(), [&sources](const ZTAPMPriceKey& theKey) {
@@ -102,7 +107,7 @@ void ZTAPMCatalogueCheck::checkArticles()
             add(ZTDiagnostic::Error, myProductsFile, productTags, id,
                 tr("Artikel %1 hat für keinen Bestellweg einen Preis").arg(id));
 
-        const ZTArticleIdSet linked = objects->articleDefinition(product->articleId()).linkedArticleIds();
+        const ZTArticleIdSet linked = definitions.value(product->articleId()).linkedArticleIds();
         if (linked.isEmpty())
             continue;
         QList<ZTArticleId> linkedIds(linked.cbegin(), linked.cend());
