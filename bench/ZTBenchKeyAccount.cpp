@@ -25,11 +25,16 @@ void ZTBenchKeyAccount::quietLog()
     qInstallMessageHandler(quietMessages);
 }
 
-void ZTBenchKeyAccount::startEngine(const QString& theDirectory)
+void ZTBenchKeyAccount::useKeyAccount(const QString& theDirectory)
 {
     quietLog();
     ZTSingleton<ZTProgramConfig>::instance()->setKeyAccountDirectory(
         QFileInfo(theDirectory).absoluteFilePath());
+}
+
+void ZTBenchKeyAccount::startEngine(const QString& theDirectory)
+{
+    useKeyAccount(theDirectory);
     ZTSingleton<ZTInitializer>::instance()->setupAll();
 }
 

@@ -18,7 +18,9 @@ public:
     static const ZTArticleId firstArticle;
 
     static void quietLog();
-    // Quiets the log and starts the engine on theDirectory.
+    // Quiets the log and makes theDirectory the key account, without starting the engine.
+    static void useKeyAccount(const QString& theDirectory);
+    // The above, then the engine's start-up.
     static void startEngine(const QString& theDirectory);
     // Every article the generator wrote, in the order of their ids; empty if it wrote none.
     static std::vector<ZTProductAbstract*> products();

@@ -4,22 +4,27 @@
 // prices) in one, the bare parse of products, prices and delivery times in the other. The two
 // alternate, so that a change in the machine's load meets both alike; the medians of wall time and
 // of peak resident memory (from the kernel's accounting of the finished child) are printed with
-// their ratio.
+// their ratio. A third process runs the catalogue check of ztapm check, which reads every document
+// whole and should take no longer than the start-up.
 //
 // usage: bench_startup [--runs N] DIR...   (key accounts, e.g. written by generate_keyaccount)
 //        bench_startup engine DIR          (one start-up, as the runner starts it)
 //        bench_startup dom DIR             (one bare parse, as the runner starts it)
 //        bench_startup reload DIR          (start-up, then a change of key account to DIR again)
+//        bench_startup check DIR           (one catalogue check, as the runner starts it)
 //
 // Columns: engine and DOM are the medians of the two processes' wall time and peak resident
 // memory; start and price the engine's own split of its time, in ms; reload what a change of key
-// account costs the registries, stores what reading the three stores anew costs, in ms.
+// account costs the registries, stores what reading the three stores anew costs, in ms; check
+// the catalogue check's wall time and its ratio to the engine's.
 
+#include "ZTAPMCatalogueCheck.h"
 #include "ZTAPMDataBase.h"
 #include "ZTAPMObjects.h"
 #include "ZTAPMPriceKey.h"
 #include "ZTArticleId.h"
 #include "ZTBenchKeyAccount.h"
+#include "ZTInitializer.h"
 #include "ZTKeyAccount.h"
 #include "ZTMoney.h"
 #include "ZTOrderSource.h"
@@ -88,6 +93,21 @@ int runReload(const QString& theDirectory)
     ZTSingleton<ZTAPMObjects>::instance()->updateKeyAccountData();
     ZTSingleton<ZTAPMObjects>::instance()->priceInfo(theFirstArticle);
     std::printf("%lld %lld\n", registries, timer.elapsed());
+    return 0;
+}
+
+// The check as ztapm check makes it: collecting from before the start-up, then across the
+// documents. Prints the start-up's and the cross-document checks' times.
+int runCheck(const QString& theDirectory)
+{
+    QElapsedTimer timer;
+    timer.start();
+    ZTBenchKeyAccount::useKeyAccount(theDirectory);
+    ZTAPMCatalogueCheck check;
+    ZTSingleton<ZTInitializer>::instance()->setupAll();
+    const qint64 startUp = timer.restart();
+    check.run();
+    std::printf("%lld %lld\n", startUp, timer.elapsed());
     return 0;
 }
 
@@ -172,16 +192,18 @@ double median(const std::vector<Run>& theRuns, Field theField)
 int runBenchmark(int theRuns, const QStringList& theDirectories)
 {
     std::printf("%d runs each, alternating, every run a process of its own; medians\n", theRuns);
-    std::printf("%-24s %8s %8s %6s %9s %9s %8s %8s %8s %8s\n", "key account", "engine s", "DOM s", "ratio",
-                "engine MB", "DOM MB", "start ms", "price ms", "reload", "stores");
+    std::printf("%-24s %8s %8s %6s %9s %9s %8s %8s %8s %8s %8s %6s\n", "key account", "engine s", "DOM s",
+                "ratio", "engine MB", "DOM MB", "start ms", "price ms", "reload", "stores", "check s",
+                "ratio");
     for (const QString& directory : theDirectories) {
         const std::string path = QFileInfo(directory).absoluteFilePath().toStdString();
-        std::vector<Run> engine, dom, reload;
+        std::vector<Run> engine, dom, reload, check;
         for (int run = 0; run < theRuns; ++run) {
             engine.push_back(runChild("engine", path));
             dom.push_back(runChild("dom", path));
             reload.push_back(runChild("reload", path));
-            if (!engine.back().ok || !dom.back().ok || !reload.back().ok) {
+            check.push_back(runChild("check", path));
+            if (!engine.back().ok || !dom.back().ok || !reload.back().ok || !check.back().ok) {
                 std::fprintf(stderr, "bench_startup: a run on %s failed\n", path.c_str());
                 return 3;
             }
@@ -192,11 +214,12 @@ int runBenchmark(int theRuns, const QStringList& theDirectories)
         auto firstPrice = [](const Run& r) { return r.firstPrice; };
         const double engineSeconds = median(engine, seconds);
         const double domSeconds = median(dom, seconds);
-        std::printf("%-24s %8.2f %8.2f %6.2f %9.0f %9.0f %8.0f %8.0f %8.0f %8.0f\n",
+        const double checkSeconds = median(check, seconds);
+        std::printf("%-24s %8.2f %8.2f %6.2f %9.0f %9.0f %8.0f %8.0f %8.0f %8.0f %8.2f %6.2f\n",
                     qPrintable(QFileInfo(directory).fileName()), engineSeconds, domSeconds,
                     engineSeconds / domSeconds, median(engine, peak), median(dom, peak),
                     median(engine, startUp), median(engine, firstPrice), median(reload, startUp),
-                    median(reload, firstPrice));
+                    median(reload, firstPrice), checkSeconds, checkSeconds / engineSeconds);
         std::fflush(stdout);
     }
     return 0;
@@ -219,6 +242,8 @@ int main(int argc, char* argv[])
             return runDom(directory);
         if (arguments.at(0) == QLatin1String("reload"))
             return runReload(directory);
+        if (arguments.at(0) == QLatin1String("check"))
+            return runCheck(directory);
     }
     int runs = 5;
     if (arguments.size() > 1 && arguments.at(0) == QLatin1String("--runs")) {
