@@ -37,9 +37,9 @@ void handOverPending()
 {
     if (theCurrent.pending.isEmpty())
         return;
+    QList<ZTDiagnosticCollector::ElementPlace> places = std::exchange(theCurrent.pending, {});
     if (ZTDiagnosticCollector* collector = theInstalled.load())
-        collector->noteElements(theCurrent.file, std::exchange(theCurrent.pending, {}));
-    theCurrent.pending.clear();
+        collector->noteElements(theCurrent.file, std::move(places));
 }
 
 // "18ZTArticleClassEnum" becomes "article class": the vocabulary as a document's author knows it,

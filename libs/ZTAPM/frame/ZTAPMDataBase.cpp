@@ -377,10 +377,6 @@ void ZTAPMDataBase::loadAllProductsFrom(const QFileInfo& theFile)
     if (!reading.read(theFile, definitions.wantsReadingOf(theFile) ? &definitions : nullptr))
         return;
     updateRegistries([&reading](ZTProductRegistryAbstract* theRegistry) { reading.readInto(theRegistry); });
-    // Where the prices are the big document and the stores read whole (while findings are
-    // collected), the second thread is still at the prices: this one reads the delivery times
-    // meanwhile, unless that thread has begun them. Whoever reads them, they read the same.
-    objects->articleDeliveryTimes().prepare();
 }
 
 void ZTAPMDataBase::updateProducts(const QDomNode& theRoot)
