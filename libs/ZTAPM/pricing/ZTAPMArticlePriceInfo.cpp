@@ -10,12 +10,29 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDomElement>
+#include <QSet>
 
 #include <algorithm>
 #include <tuple>
 
 namespace {
 const QString PRICE_NODE = QStringLiteral("price");
+
+// The rows of all articles take their keys from a few hundred (order source, level, model)
+// triples, so equal keys share one body instead of one each per row of a catalogue. Per thread,
+// so that readers on two threads take no lock; a document of unusual levels stops the sharing
+// at a bound, not the reading.
+ZTAPMPriceKey sharedKey(const ZTAPMPriceKey& theKey)
+{
+    constexpr qsizetype mostKeys = 4096;
+    thread_local QSet<ZTAPMPriceKey> theKeys;
+    const auto found = theKeys.constFind(theKey);
+    if (found != theKeys.cend())
+        return *found;
+    if (theKeys.size() < mostKeys)
+        theKeys.insert(theKey);
+    return theKey;
+}
 
 // The one row of a "price" element; false if the element has no usable model.
 bool readPriceRow(const QDomElement& thePriceElement, ZTAPMPriceKey* theKey, ZTAPMPriceValue* theValue)
@@ -30,7 +47,8 @@ bool readPriceRow(const QDomElement& thePriceElement, ZTAPMPriceKey* theKey, ZTA
                     .arg(thePriceElement.attribute(QStringLiteral("type"))));
         return false;
     }
-    *theKey = ZTAPMPriceKey(ZTOrderSource(thePriceElement), value.discountLevel(), value.discountModel());
+    *theKey = sharedKey(
+        ZTAPMPriceKey(ZTOrderSource(thePriceElement), value.discountLevel(), value.discountModel()));
     *theValue = value;
     return true;
 }

@@ -26,9 +26,23 @@ ZTAPMPriceValues::LadderId ZTAPMPriceValues::ladderId(const ZTAPMPriceKey& theKe
     return ladderId(theKey.orderSource(), theKey.discountModel());
 }
 
+namespace {
+
+template <typename Ladder, typename Id>
+bool ladderBefore(const Ladder& theLadder, const Id& theId)
+{
+    return theLadder.id < theId;
+}
+
+} // namespace
+
 void ZTAPMPriceValues::addLevel(const ZTAPMPriceKey& theKey)
 {
-    QList<int>& levels = myLevels[ladderId(theKey)];
+    const LadderId id = ladderId(theKey);
+    auto ladder = std::lower_bound(myLevels.begin(), myLevels.end(), id, ladderBefore<Ladder, LadderId>);
+    if (ladder == myLevels.end() || ladder->id != id)
+        ladder = myLevels.insert(ladder, Ladder{id, {}});
+    QList<int>& levels = ladder->levels;
     const auto it = std::lower_bound(levels.begin(), levels.end(), theKey.discountLevel());
     if (it == levels.end() || *it != theKey.discountLevel())
         levels.insert(it, theKey.discountLevel());
@@ -37,7 +51,10 @@ void ZTAPMPriceValues::addLevel(const ZTAPMPriceKey& theKey)
 QList<int> ZTAPMPriceValues::levels(const ZTOrderSource& theOrderSource,
                                     const ZTDiscountModel& theModel) const
 {
-    return myLevels.value(ladderId(theOrderSource, theModel));
+    const LadderId id = ladderId(theOrderSource, theModel);
+    const auto ladder =
+        std::lower_bound(myLevels.cbegin(), myLevels.cend(), id, ladderBefore<Ladder, LadderId>);
+    return ladder != myLevels.cend() && ladder->id == id ? ladder->levels : QList<int>();
 }
 
 void ZTAPMPriceValues::insert(const ZTAPMPriceKey& theKey, const ZTAPMPriceValue& theValue)

@@ -70,9 +70,17 @@ private:
     static LadderId ladderId(const ZTOrderSource& theOrderSource, const ZTDiscountModel& theModel);
     void addLevel(const ZTAPMPriceKey& theKey);
 
+    struct Ladder
+    {
+        LadderId id;
+        QList<int> levels; // ascending
+    };
+
     Rows myValues;
-    // Every key's level by ladder, sorted; kept with the rows.
-    QHash<LadderId, QList<int>> myLevels;
+    // Every key's level by ladder, kept with the rows; the ladders ascend by id. A table has a
+    // handful of ladders, and a sorted list holds them in a fraction of a hash's memory, which
+    // counts when every article of a catalogue keeps its table.
+    QList<Ladder> myLevels;
     qint32 myMaxDiscountLevel = 0;
 };
 
