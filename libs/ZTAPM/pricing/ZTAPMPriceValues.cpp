@@ -26,20 +26,15 @@ ZTAPMPriceValues::LadderId ZTAPMPriceValues::ladderId(const ZTAPMPriceKey& theKe
     return ladderId(theKey.orderSource(), theKey.discountModel());
 }
 
-namespace {
-
-template <typename Ladder, typename Id>
-bool ladderBefore(const Ladder& theLadder, const Id& theId)
+bool ZTAPMPriceValues::ladderBefore(const Ladder& theLadder, const LadderId& theId)
 {
     return theLadder.id < theId;
 }
 
-} // namespace
-
 void ZTAPMPriceValues::addLevel(const ZTAPMPriceKey& theKey)
 {
     const LadderId id = ladderId(theKey);
-    auto ladder = std::lower_bound(myLevels.begin(), myLevels.end(), id, ladderBefore<Ladder, LadderId>);
+    auto ladder = std::lower_bound(myLevels.begin(), myLevels.end(), id, ladderBefore);
     if (ladder == myLevels.end() || ladder->id != id)
         ladder = myLevels.insert(ladder, Ladder{id, {}});
     QList<int>& levels = ladder->levels;
@@ -52,8 +47,7 @@ QList<int> ZTAPMPriceValues::levels(const ZTOrderSource& theOrderSource,
                                     const ZTDiscountModel& theModel) const
 {
     const LadderId id = ladderId(theOrderSource, theModel);
-    const auto ladder =
-        std::lower_bound(myLevels.cbegin(), myLevels.cend(), id, ladderBefore<Ladder, LadderId>);
+    const auto ladder = std::lower_bound(myLevels.cbegin(), myLevels.cend(), id, ladderBefore);
     return ladder != myLevels.cend() && ladder->id == id ? ladder->levels : QList<int>();
 }
 

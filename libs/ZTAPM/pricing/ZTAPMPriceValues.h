@@ -75,6 +75,8 @@ private:
         LadderId id;
         QList<int> levels; // ascending
     };
+    // For the search of a ladder by id.
+    static bool ladderBefore(const Ladder& theLadder, const LadderId& theId);
 
     Rows myValues;
     // Every key's level by ladder, kept with the rows; the ladders ascend by id. A table has a
