@@ -6,7 +6,29 @@
 #include <QDateTime>
 #include <QDebug>
 #include <QDomElement>
+#include <QHash>
 #include <QStringList>
+
+namespace {
+
+// An offer's end as seconds since the epoch. A document's offers end on a handful of dates, and
+// each conversion from local time asks the C library for the time zone, which reads its file
+// again: the seconds of each text are kept, per thread, so that readers on two threads take no
+// lock. A document of unusually many dates stops the keeping at a bound, not the reading.
+qint64 endOfferEpoch(const QString& theText)
+{
+    constexpr qsizetype mostDates = 1024;
+    thread_local QHash<QString, qint64> theEpochs;
+    const auto found = theEpochs.constFind(theText);
+    if (found != theEpochs.cend())
+        return *found;
+    const qint64 epoch = QDateTime::fromString(theText, Qt::ISODate).toSecsSinceEpoch();
+    if (theEpochs.size() < mostDates)
+        theEpochs.insert(theText, epoch);
+    return epoch;
+}
+
+} // namespace
 
 ZTAPMPriceValue::ZTAPMPriceValue() : d(new ZTAPMPriceValueImpl)
 {}
@@ -21,7 +43,7 @@ ZTAPMPriceValue::ZTAPMPriceValue(const QDomElement& theElement) : d(new ZTAPMPri
     const QString endOfferDate =
         ZTXMLParser::attribute(theElement, QStringLiteral("end_offer_date"), QString(), true);
     if (!endOfferDate.isEmpty())
-        d->myEndOfferDateEpoch = QDateTime::fromString(endOfferDate, Qt::ISODate).toSecsSinceEpoch();
+        d->myEndOfferDateEpoch = endOfferEpoch(endOfferDate);
 }
 
 ZTAPMPriceValue::ZTAPMPriceValue(const ZTAPMPriceValue& theOther) = default;
