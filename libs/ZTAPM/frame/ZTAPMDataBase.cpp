@@ -34,6 +34,8 @@
 #include <QSet>
 
 #include <algorithm>
+#include <atomic>
+#include <system_error>
 #include <thread>
 
 namespace {
@@ -366,12 +368,30 @@ void ZTAPMDataBase::loadAllProductsFrom(const QFileInfo& theFile)
     const ZTAPMArticleDefinitions& definitions = objects->articleDefinitions();
     // The first price question after start-up would wait for the prices store to read its
     // document; a store that has not read it yet does so now, on a second core, while the
-    // products are read. Each store reads under its own lock, so the answers are the same.
-    std::thread stores([objects] {
-        objects->articlePrices().prepare();
-        objects->articleDeliveryTimes().prepare();
+    // products are read. Whichever thread is free first takes the next document: a big prices
+    // document keeps the second core busy while this one, done with the products, reads the
+    // delivery times. Each store reads under its own lock, so the answers are the same whoever
+    // reads, and without a second thread this one reads everything.
+    std::atomic<int> nextStore{0};
+    const auto prepareStores = [objects, &nextStore] {
+        for (int store = nextStore++; store < 2; store = nextStore++) {
+            if (store == 0)
+                objects->articlePrices().prepare();
+            else
+                objects->articleDeliveryTimes().prepare();
+        }
+    };
+    std::thread stores;
+    try {
+        stores = std::thread(prepareStores);
+    } catch (const std::system_error& theError) {
+        qWarning() << "No thread for the stores:" << theError.what();
+    }
+    const auto joinStores = qScopeGuard([&stores, &prepareStores] {
+        prepareStores();
+        if (stores.joinable())
+            stores.join();
     });
-    const auto joinStores = qScopeGuard([&stores] { stores.join(); });
     ZTAPMProductsReading reading(keyWords);
     // The store's lock is given up before the data base's is taken, which comes first.
     if (!reading.read(theFile, definitions.wantsReadingOf(theFile) ? &definitions : nullptr))
