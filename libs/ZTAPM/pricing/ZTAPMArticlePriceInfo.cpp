@@ -53,6 +53,18 @@ bool readPriceRow(const QDomElement& thePriceElement, ZTAPMPriceKey* theKey, ZTA
     return true;
 }
 
+// The rows of a group's "price" children into theTable, each replacing a row of an equal key.
+void readPricesGroup(const QDomElement& theGroup, ZTAPMPriceValues* theTable)
+{
+    ZTAPMPriceKey key;
+    ZTAPMPriceValue value;
+    for (QDomElement price = theGroup.firstChildElement(PRICE_NODE); !price.isNull();
+         price = price.nextSiblingElement(PRICE_NODE)) {
+        if (readPriceRow(price, &key, &value))
+            theTable->insert(key, value);
+    }
+}
+
 // Next to a photo package, the rows of its order source are read as photo package rows: one
 // note per source that has "y" rows, in the sources' order.
 void reportConvertedRows(const ZTAPMPriceValues& theTable)
@@ -120,13 +132,18 @@ QString ZTAPMArticlePriceInfo::xtciSectionName(const QString& theNodeName)
 void ZTAPMArticlePriceInfo::update(const QDomElement& theArticleNode)
 {
     clear();
+    // Both groups straight into one table: discount rows replace base rows of an equal key, as
+    // a union of the two groups' tables would.
     ZTAPMPriceValues table;
-    table.unite(parsePricesGroup(theArticleNode.firstChildElement(QStringLiteral("base_prices"))));
-    table.unite(parsePricesGroup(theArticleNode.firstChildElement(QStringLiteral("discount_prices"))));
+    readPricesGroup(theArticleNode.firstChildElement(QStringLiteral("base_prices")), &table);
+    readPricesGroup(theArticleNode.firstChildElement(QStringLiteral("discount_prices")), &table);
     if (ZTDiagnosticCollector::isCollecting())
         reportConvertedRows(table);
     // Upper bounds last, so that they are computed within the converted photo package ladder.
-    myPriceValues = table.fixedDiscountModelW().fixedUpperLimits();
+    // The table is set free first, so that the bounds are set without a copy of it.
+    myPriceValues = table.fixedDiscountModelW();
+    table.clear();
+    myPriceValues.fixUpperLimits();
     myDiscountModels = myPriceValues.discountModels();
     myDiscountModelsInOrder = QList<ZTDiscountModel>(myDiscountModels.cbegin(), myDiscountModels.cend());
     std::sort(myDiscountModelsInOrder.begin(), myDiscountModelsInOrder.end(), byModelValue);
@@ -154,13 +171,7 @@ ZTAPMPriceValues ZTAPMArticlePriceInfo::parsePrice(const QDomElement& thePriceEl
 ZTAPMPriceValues ZTAPMArticlePriceInfo::parsePricesGroup(const QDomElement& theGroup)
 {
     ZTAPMPriceValues result;
-    ZTAPMPriceKey key;
-    ZTAPMPriceValue value;
-    for (QDomElement price = theGroup.firstChildElement(PRICE_NODE); !price.isNull();
-         price = price.nextSiblingElement(PRICE_NODE)) {
-        if (readPriceRow(price, &key, &value))
-            result.insert(key, value);
-    }
+    readPricesGroup(theGroup, &result);
     return result;
 }
 

@@ -1,5 +1,7 @@
 #include "ZTAPMPriceValues.h"
 
+#include <QVarLengthArray>
+
 #include <algorithm>
 #include <climits>
 
@@ -116,13 +118,21 @@ int ZTAPMPriceValues::countItemsAtUpperBound(const ZTAPMPriceKey& theKey) const
 
 ZTAPMPriceValues ZTAPMPriceValues::fixedUpperLimits() const
 {
-    ZTAPMPriceValues result;
-    for (auto it = myValues.cbegin(); it != myValues.cend(); ++it) {
-        ZTAPMPriceValue value(it.value());
-        value.setUpperLimit(countItemsAtUpperBound(it.key()));
-        result.insert(it.key(), value);
-    }
+    ZTAPMPriceValues result(*this);
+    result.fixUpperLimits();
     return result;
+}
+
+void ZTAPMPriceValues::fixUpperLimits()
+{
+    // Every bound is looked up before any is set, so that each comes from the rows as they were.
+    QVarLengthArray<int, 64> upperLimits;
+    upperLimits.reserve(myValues.size());
+    for (auto it = myValues.cbegin(); it != myValues.cend(); ++it)
+        upperLimits.append(countItemsAtUpperBound(it.key()));
+    qsizetype row = 0;
+    for (auto it = myValues.begin(); it != myValues.end(); ++it)
+        it.value().setUpperLimit(upperLimits.at(row++));
 }
 
 ZTAPMPriceValues ZTAPMPriceValues::fixedDiscountModelW() const
@@ -158,10 +168,13 @@ ZTAPMPriceValues ZTAPMPriceValues::fixedDiscountModelW(const ZTAPMPriceValues& t
 
 QSet<ZTDiscountModel> ZTAPMPriceValues::discountModels() const
 {
-    QSet<ZTDiscountModel> result;
-    for (const ZTAPMPriceValue& value : myValues)
-        result.insert(value.discountModel());
-    return result;
+    // A table has a handful of models among many rows: a list finds them faster than a set.
+    QVarLengthArray<ZTDiscountModel, 8> models;
+    for (const ZTAPMPriceValue& value : myValues) {
+        if (!models.contains(value.discountModel()))
+            models.append(value.discountModel());
+    }
+    return QSet<ZTDiscountModel>(models.cbegin(), models.cend());
 }
 
 bool ZTAPMPriceValues::containsDiscountModel(const ZTOrderSource& theOrderSource,

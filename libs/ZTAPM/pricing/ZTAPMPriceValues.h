@@ -50,6 +50,8 @@ public:
     int countItemsAtUpperBound(const ZTAPMPriceKey& theKey) const;
     // Documents give lower bounds only; a copy with every row's upper bound filled in.
     ZTAPMPriceValues fixedUpperLimits() const;
+    // The same on this table, for a reader that has no use for the table without the bounds.
+    void fixUpperLimits();
     // For every order source that has "w" rows, a copy in which all its rows are "w" rows;
     // "y" rows remember their origin.
     ZTAPMPriceValues fixedDiscountModelW() const;
