@@ -126,10 +126,13 @@ ZTAPMPriceValues ZTAPMPriceValues::fixedUpperLimits() const
 void ZTAPMPriceValues::fixUpperLimits()
 {
     // Every bound is looked up before any is set, so that each comes from the rows as they were.
+    // The maximum level is that of the rows, as if each had been inserted anew.
     QVarLengthArray<int, 64> upperLimits;
     upperLimits.reserve(myValues.size());
-    for (auto it = myValues.cbegin(); it != myValues.cend(); ++it)
+    for (auto it = myValues.cbegin(); it != myValues.cend(); ++it) {
         upperLimits.append(countItemsAtUpperBound(it.key()));
+        myMaxDiscountLevel = std::max(myMaxDiscountLevel, qint32(it.value().discountLevel()));
+    }
     qsizetype row = 0;
     for (auto it = myValues.begin(); it != myValues.end(); ++it)
         it.value().setUpperLimit(upperLimits.at(row++));
